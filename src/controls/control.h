@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+
+namespace lanterra {
+
+/// What all controls share: an observable value that a face can enable, show and give the focus to. A control has
+/// no picture of itself; the window binds it to a widget by its name, the command line writes to it directly.
+class Control : public QObject {
+    Q_OBJECT
+
+public:
+    bool Enabled() const { return enabled; }
+    void SetEnabled(bool on);
+
+    bool Visible() const { return visible; }
+    void SetVisible(bool on);
+
+    /// Asks the face to move the keyboard focus here. Without a face nothing happens.
+    void SetFocus() { emit FocusRequested(); }
+
+signals:
+    void EnabledChanged(bool on);
+    void VisibleChanged(bool on);
+    void FocusRequested();
+
+private:
+    bool enabled = true;
+    bool visible = true;
+};
+
+} // namespace lanterra

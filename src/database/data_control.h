@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+namespace lanterra {
+
+class DatabaseFiles;
+
+/// A bound data object: a database file, a record source (the name of a table) and the row set that Refresh made
+/// of it, in stored order, with one current row. All data controls on one file share its connection, and one sees
+/// what another has committed.
+///
+/// Nothing here shows a message or throws. A step that fails returns false, leaves an empty value, and says why in
+/// Failure().
+class DataControl {
+public:
+    enum class Access { ReadOnly, ReadWrite };
+
+    /// `databaseFiles` must outlive the control. A ReadOnly control refuses every writing step and opens a file
+    /// that no other control has open in SQLite's read-only mode.
+    DataControl(DatabaseFiles &databaseFiles, Access accessMode);
+    ~DataControl();
+    DataControl(const DataControl &) = delete;
+    DataControl &operator=(const DataControl &) = delete;
+
+    /// Binds the control to a file; the row set is empty until the next Refresh. An empty name closes the binding.
+    /// The path is made absolute.
+    void SetDatabaseName(const QString &path);
+    const QString &DatabaseName() const;
+
+    void SetRecordSource(const QString &table);
+    const QString &RecordSource() const;
+
+    /// Reads the row set anew and stands on its first row. False if the file is missing, is no sound database
+    /// (checked before SQLite sees it), is locked for more than 200 ms, or has no such table; the row set is then
+    /// empty and no file was created or changed.
+    bool Refresh();
+
+    /// Releases the file, so that it can be copied. Uncommitted work of a running walk is committed first. The
+    /// name and the record source stay.
+    void Close();
+
+    int RowCount() const;
+    /// Stand on a row. False, with no current row, if there is none.
+    bool MoveFirst();
+    bool MoveNext();
+    bool MoveLast();
+    bool HasRow() const;
+
+    /// The field of the current row; empty (0, false) for NULL, for an unknown field and without a row. Names
+    /// compare exactly. A number in any other column type reads as its text and the other way round.
+    QString Text(const QString &field) const;
+    int Number(const QString &field) const;
+    /// Any number but 0 is true.
+    bool Boolean(const QString &field) const;
+    bool IsNull(const QString &field) const;
+
+    /// Begin to change the current row, or a new row with only NULL fields, which becomes the last one.
+    bool Edit();
+    bool AddNew();
+    /// Sets a field of the row that is being changed. A text longer than the field's declared size fails in that
+    /// one field and leaves the old value. Sizes count UTF-16 units and come from the table's declaration,
+    /// "VARCHAR(255)".
+    bool SetText(const QString &field, const QString &text);
+    bool SetNumber(const QString &field, int number);
+    /// Stored as -1 and 0.
+    bool SetBoolean(const QString &field, bool value);
+    /// Writes the changed row. A row left without Update is dropped by the next move, Edit, AddNew or Refresh.
+    /// Afterwards the control stands on the written row.
+    bool Update();
+    /// Deletes the current row. There is no current row afterwards until the next move.
+    bool Delete();
+
+    /// Why the last failing step failed, one sentence; empty if none has failed since the last Refresh.
+    const QString &Failure() const;
+};
+
+} // namespace lanterra

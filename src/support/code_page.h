@@ -7,9 +7,9 @@
 namespace lanterra {
 
 /// The single-byte code page of the wire and of text files: windows-1252, with a one-to-one table. Its five
-/// unused bytes (81, 8D, 8F, 90, 9D hexadecimal) map to the control characters of the same number, so bytes that
-/// are decoded and encoded again are the same bytes. Source of the table: the Unicode Consortium's mapping of
-/// windows-1252.
+/// unused bytes (81, 8D, 8F, 90, 9D hexadecimal) map to the control characters of the same number, so bytes
+/// that are decoded and encoded again are the same bytes. Source of the table: the Unicode Consortium's
+/// mapping of windows-1252.
 class CodePage {
 public:
     /// One character a byte.

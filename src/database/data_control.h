@@ -47,6 +47,8 @@ public:
     bool MoveFirst();
     bool MoveNext();
     bool MoveLast();
+    /// Stands on row `row`, counted from 0.
+    bool MoveTo(int row);
     bool HasRow() const;
 
     /// The field of the current row; empty (0, false) for NULL, for an unknown field and without a row. Names

@@ -1,0 +1,50 @@
+#include "support/socket_errors.h"
+#include "tests/qt_printing.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+TEST(SocketErrorsTest, TheTableHas51FullRowsInTheOrderOfTheirCodes) {
+    QFile file(u":/support/socket_errors.txt"_s);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = file.readAll().trimmed().split('\n');
+    EXPECT_EQ(lines.size(), 51);
+    int last = -1;
+    for (const QByteArray &line : lines) {
+        const QList<QByteArray> columns = line.split('\t');
+        ASSERT_EQ(columns.size(), 3) << line.toStdString();
+        EXPECT_GT(columns[0].toInt(), last);
+        last = columns[0].toInt();
+        QString name;
+        EXPECT_EQ(SocketErrorText(last, &name), QString::fromLatin1(columns[2]));
+        EXPECT_EQ(name, QString::fromLatin1(columns[1]));
+        EXPECT_TRUE(columns[1].startsWith("WSA") && !columns[2].isEmpty()) << line.toStdString();
+    }
+}
+
+TEST(SocketErrorsTest, GivesTheStandardsWords) {
+    EXPECT_EQ(SocketErrorText(0), u"No Error"_s);
+    EXPECT_EQ(SocketErrorText(35), u"Operation would block"_s);
+    EXPECT_EQ(SocketErrorText(69), u"Disc Quota Exceeded"_s);
+    QString name;
+    EXPECT_EQ(SocketErrorText(1004, &name),
+              u"Valid name, no data record of requested type *OR* No address, look for MX record"_s);
+    EXPECT_EQ(name, u"WSANO_DATA or WSANO_ADDRESS"_s);
+    EXPECT_EQ(SocketErrorText(9999, &name), u"Unknown Error"_s);
+    EXPECT_EQ(name, QString());
+}
+
+TEST(SocketErrorsTest, ErrorsOfASocketReadAsWhatHappened) {
+    const auto text = [](QAbstractSocket::SocketError error) {
+        return SocketErrorText(SocketErrorCode(error));
+    };
+    EXPECT_EQ(text(QAbstractSocket::ConnectionRefusedError), u"Connection refused"_s);
+    EXPECT_EQ(text(QAbstractSocket::RemoteHostClosedError), u"Connection reset by peer"_s);
+    EXPECT_EQ(text(QAbstractSocket::HostNotFoundError), u"Host not found"_s);
+    EXPECT_EQ(text(QAbstractSocket::SocketTimeoutError), u"Connection timed out"_s);
+    EXPECT_EQ(text(QAbstractSocket::NetworkError), u"No Route to Host"_s);
+    EXPECT_EQ(text(QAbstractSocket::SslHandshakeFailedError), u"Unknown Error"_s);
+}

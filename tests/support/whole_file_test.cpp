@@ -1,0 +1,102 @@
+#include "support/text_file.h"
+#include "support/whole_file.h"
+#include "tests/file_size_limit.h"
+#include "tests/qt_printing.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class WholeFileTest : public testing::Test {
+protected:
+    WholeFileTest() { WriteWholeFile(path, "old"); }
+
+    static QByteArray Content(const QString &name) {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+    }
+    QStringList Entries() const {
+        return QDir(folder.path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(u"page.htm"_s);
+};
+
+TEST_F(WholeFileTest, TakesThePlaceOfTheOldFileAtCommitOnly) {
+    {
+        WholeFile dropped(path);
+        EXPECT_TRUE(dropped.Write("dropped"));
+    }
+    WholeFile file(path);
+    EXPECT_TRUE(file.Write("new "));
+    EXPECT_TRUE(file.Write("text"));
+    EXPECT_EQ(Content(path), QByteArray("old"));
+    EXPECT_TRUE(file.Commit());
+    EXPECT_EQ(Content(path), QByteArray("new text"));
+    EXPECT_FALSE(file.Commit());
+    EXPECT_EQ(Entries(), QStringList{u"page.htm"_s});
+}
+
+TEST_F(WholeFileTest, AFullDiskLeavesTheOldFile) {
+    for (const int size : {100, 5000, 100'000}) { // the small ones fit the buffer and fail behind it
+        const FileSizeLimit full(50);
+        EXPECT_FALSE(WriteWholeFile(path, QByteArray(size, 'x'))) << size;
+    }
+    EXPECT_EQ(Content(path), QByteArray("old"));
+    EXPECT_EQ(Entries(), QStringList{u"page.htm"_s});
+}
+
+TEST_F(WholeFileTest, ReplacesALinkAndLeavesWhatItPointsAt) {
+    const QString link = folder.filePath(u"link.htm"_s);
+    const QString dangling = folder.filePath(u"dangling.htm"_s);
+    QFile::link(path, link);
+    QFile::link(folder.filePath(u"none"_s), dangling);
+    EXPECT_TRUE(WriteWholeFile(link, "new"));
+    EXPECT_TRUE(WriteWholeFile(dangling, "new"));
+    EXPECT_EQ(Content(path), QByteArray("old"));
+    EXPECT_EQ(Content(link), QByteArray("new"));
+    EXPECT_FALSE(QFileInfo(link).isSymLink() || QFileInfo(dangling).isSymLink());
+    EXPECT_EQ(Entries(), (QStringList{u"dangling.htm"_s, u"link.htm"_s, u"page.htm"_s}));
+}
+
+TEST_F(WholeFileTest, GivesTheFileOrdinaryPermissions) {
+    const mode_t old = umask(022);
+    const QString fresh = folder.filePath(u"fresh"_s);
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+    EXPECT_TRUE(WriteWholeFile(path, "new") && WriteWholeFile(fresh, "new"));
+    umask(old);
+    EXPECT_EQ(int(QFile::permissions(path)), 0x6600);
+    EXPECT_EQ(int(QFile::permissions(fresh)), 0x6644);
+}
+
+TEST_F(WholeFileTest, CopiesAFileButNeverOntoItself) {
+    const QString copy = folder.filePath(u"copy"_s);
+    const QByteArray large(200'000, 'x');
+    WriteWholeFile(path, large);
+    EXPECT_TRUE(CopyWholeFile(path, copy));
+    EXPECT_EQ(Content(copy), large);
+    EXPECT_FALSE(CopyWholeFile(path, folder.path() + u"/./page.htm"_s));
+    EXPECT_FALSE(CopyWholeFile(folder.filePath(u"none"_s), copy));
+    EXPECT_FALSE(CopyWholeFile(folder.path(), copy));
+    EXPECT_EQ(Content(path), large);
+    EXPECT_EQ(Content(copy), large);
+}
+
+TEST_F(WholeFileTest, TextGoesThroughTheCodePage) {
+    EXPECT_TRUE(WriteFileText(path, u"5 €\r\nΩ"_s));
+    EXPECT_EQ(Content(path), QByteArray("5 \x80\r\n?"));
+    EXPECT_EQ(ReadFileText(path), u"5 €\r\n?"_s);
+    EXPECT_EQ(ReadFileText(folder.path()), QString());
+    EXPECT_FALSE(WriteFileText(folder.filePath(u"none/page.htm"_s), u"x"_s));
+}
+
+} // namespace

@@ -1,0 +1,149 @@
+#include "database/maintenance.h"
+
+#include "database/sqlite_connection.h"
+#include "database/sqlite_file_check.h"
+#include "database/table_schema.h"
+#include "support/whole_file.h"
+
+#include <QFileInfo>
+#include <QTemporaryFile>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace lanterra {
+
+namespace {
+
+/// An empty file beside another one, where a database grows before it takes that one's place.
+class ScratchFile {
+public:
+    explicit ScratchFile(const QString &target) : targetPath(target), file(target + ".XXXXXX"_L1) {
+        if (file.open())
+            file.close();
+    }
+
+    QString Path() const { return file.fileName(); }
+
+    /// A journal beside the target belongs to the file that is there now: a new one must not come under it.
+    bool TakePlace() { return !HasJournal(targetPath) && CopyWholeFile(Path(), targetPath); }
+
+private:
+    QString targetPath;
+    QTemporaryFile file;
+};
+
+bool PassesIntegrityCheck(SqliteConnection &connection) {
+    QSqlQuery *query = connection.Execute(u"PRAGMA integrity_check(1)"_s);
+    const bool passes = query && connection.Next(*query) && query->value(0).toString() == "ok"_L1;
+    if (query)
+        query->finish();
+    return passes;
+}
+
+bool IsSound(const QString &path) {
+    if (!SqliteFileRefusal(path).isEmpty())
+        return false;
+    SqliteConnection connection(path, SqliteConnection::Mode::ReadWrite);
+    DatabaseSchema schema;
+    return ReadSchema(connection, schema).isEmpty() && PassesIntegrityCheck(connection);
+}
+
+bool CopyDeclarations(SqliteConnection &from, SqliteConnection &to, const QString &type) {
+    QSqlQuery *query = from.Execute(
+        u"SELECT sql FROM sqlite_schema WHERE type = ? AND sql IS NOT NULL AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\'"_s,
+        {type});
+    bool copied = query != nullptr;
+    while (copied && from.Next(*query))
+        copied = to.Run(query->value(0).toString());
+    return copied && from.Failure().isEmpty();
+}
+
+QString FieldList(const TableSchema &table) {
+    QStringList fields{u"rowid"_s};
+    for (const FieldSchema &field : table.fields)
+        fields.append(QuotedName(field.name));
+    return fields.join(", "_L1);
+}
+
+/// Copies rows, the ones with the numbers from 0 up or those from the highest down, until one can't be read
+/// or is there already. False if a row could not be written.
+bool CopyRows(SqliteConnection &from, SqliteConnection &to, const TableSchema &table, const QString &order) {
+    const QString name = QuotedName(table.name);
+    const QStringList places(table.fields.size() + 1, u"?"_s);
+    const QString insert =
+        u"INSERT OR IGNORE INTO %1 (%2) VALUES (%3)"_s.arg(name, FieldList(table), places.join(u','));
+    QSqlQuery *query =
+        from.Execute(u"SELECT %1 FROM %2 ORDER BY rowid %3"_s.arg(FieldList(table), name, order));
+    while (query && from.Next(*query)) {
+        QVariantList values;
+        for (int place = 0; place < places.size(); ++place)
+            values.append(query->value(place));
+        const QSqlQuery *written = to.Execute(insert, values);
+        if (!written)
+            return false;
+        if (written->numRowsAffected() == 0)
+            break;
+    }
+    if (query)
+        query->finish();
+    return true;
+}
+
+/// What lies before the damage is read forwards, what lies behind it backwards.
+bool CopyReadableRows(SqliteConnection &from, SqliteConnection &to, const DatabaseSchema &schema) {
+    return std::all_of(schema.cbegin(), schema.cend(), [&](const TableSchema &table) {
+        return CopyRows(from, to, table, u"ASC"_s) &&
+               (from.Failure().isEmpty() || CopyRows(from, to, table, u"DESC"_s));
+    });
+}
+
+bool Rebuild(const QString &path, const QString &scratchPath) {
+    SqliteConnection from(path, SqliteConnection::Mode::ReadWrite);
+    SqliteConnection to(scratchPath, SqliteConnection::Mode::Scratch);
+    DatabaseSchema schema;
+    // The lock keeps others out, so that a row which can't be read is a damaged one and not one in use.
+    if (!from.Run(u"BEGIN IMMEDIATE"_s) || !ReadSchema(from, schema).isEmpty() || schema.isEmpty())
+        return false;
+    return to.Run(u"BEGIN"_s) && CopyDeclarations(from, to, u"table"_s) &&
+           CopyReadableRows(from, to, schema) && CopyDeclarations(from, to, u"index"_s) &&
+           to.Run(u"COMMIT"_s);
+}
+
+} // namespace
+
+bool CreateDatabase(const QString &path, const QStringList &statements) {
+    ScratchFile scratch(path);
+    {
+        SqliteConnection connection(scratch.Path(), SqliteConnection::Mode::Scratch);
+        const auto run = [&connection](const QString &statement) { return connection.Run(statement); };
+        if (!std::all_of(statements.cbegin(), statements.cend(), run))
+            return false;
+    }
+    return scratch.TakePlace();
+}
+
+bool CompactDatabase(const QString &source, const QString &destination) {
+    const QString path = QFileInfo(source).canonicalFilePath();
+    if (!SqliteFileRefusal(path).isEmpty())
+        return false;
+    ScratchFile scratch(destination);
+    {
+        SqliteConnection connection(path, SqliteConnection::Mode::ReadWrite);
+        DatabaseSchema schema;
+        if (!ReadSchema(connection, schema).isEmpty() ||
+            !connection.Run(u"VACUUM INTO ?"_s, {scratch.Path()}))
+            return false;
+    }
+    return scratch.TakePlace();
+}
+
+bool RepairDatabase(const QString &path) {
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    if (IsSound(canonical))
+        return true;
+    ScratchFile scratch(canonical);
+    return Rebuild(canonical, scratch.Path()) && IsSound(scratch.Path()) && scratch.TakePlace();
+}
+
+} // namespace lanterra

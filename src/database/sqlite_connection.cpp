@@ -1,0 +1,103 @@
+#include "database/sqlite_connection.h"
+
+#include <QSqlError>
+#include <QUrl>
+#include <QUuid>
+
+using namespace Qt::StringLiterals;
+
+namespace lanterra {
+
+namespace {
+
+// Short enough that a step which meets two locks, one behind the other, still ends within 200 ms.
+constexpr auto connectOptions = "QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=80"_L1;
+
+// Result codes of SQLite, as the driver hands them on.
+constexpr auto busyCode = "5"_L1;
+constexpr auto lockedCode = "6"_L1;
+constexpr auto notADatabaseCode = "26"_L1;
+
+// As an address, so that the mode can be told: the driver itself would create a missing file.
+QString Address(const QString &path, SqliteConnection::Mode mode) {
+    const auto access = mode == SqliteConnection::Mode::ReadOnly ? "?mode=ro"_L1 : "?mode=rw"_L1;
+    return QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded(QUrl::FullyEncoded)) + access;
+}
+
+QString Sentence(const QSqlError &error) {
+    const QString code = error.nativeErrorCode();
+    if (code == busyCode || code == lockedCode)
+        return u"The file is in use by another program."_s;
+    if (code == notADatabaseCode)
+        return u"The file is no database."_s;
+    return u"The database reports: %1."_s.arg(error.databaseText());
+}
+
+} // namespace
+
+SqliteConnection::SqliteConnection(const QString &path, Mode mode)
+    : connectionName(QUuid::createUuid().toString()) {
+    Open(Address(path, mode));
+    if (mode != Mode::Scratch)
+        return;
+    Run(u"PRAGMA synchronous = OFF"_s);
+    if (QSqlQuery *query = Execute(u"PRAGMA journal_mode = MEMORY"_s))
+        query->finish();
+}
+
+SqliteConnection::SqliteConnection() : connectionName(QUuid::createUuid().toString()) { Open(u":memory:"_s); }
+
+SqliteConnection::~SqliteConnection() {
+    statements.clear();
+    QSqlDatabase::removeDatabase(connectionName);
+}
+
+void SqliteConnection::Open(const QString &name) {
+    QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, connectionName);
+    database.setDatabaseName(name);
+    database.setConnectOptions(connectOptions);
+    if (!database.open()) {
+        Accept(database.lastError());
+        return;
+    }
+    Run(u"PRAGMA synchronous = FULL"_s);
+    Run(u"PRAGMA trusted_schema = OFF"_s);
+    Run(u"PRAGMA cell_size_check = ON"_s);
+}
+
+QSqlQuery *SqliteConnection::Prepared(const QString &sql) {
+    if (const auto known = statements.find(sql); known != statements.end())
+        return &known->second;
+    QSqlQuery query(QSqlDatabase::database(connectionName, false));
+    query.setForwardOnly(true);
+    if (!query.prepare(sql)) {
+        Accept(query.lastError());
+        return nullptr;
+    }
+    return &statements.emplace(sql, std::move(query)).first->second;
+}
+
+QSqlQuery *SqliteConnection::Execute(const QString &sql, const QVariantList &values) {
+    QSqlQuery *query = Prepared(sql);
+    if (!query)
+        return nullptr;
+    for (qsizetype place = 0; place < values.size(); ++place)
+        query->bindValue(static_cast<int>(place), values[place]);
+    query->exec();
+    return Accept(query->lastError()) ? query : nullptr;
+}
+
+bool SqliteConnection::Next(QSqlQuery &query) {
+    const bool here = query.next();
+    Accept(query.lastError());
+    return here;
+}
+
+bool SqliteConnection::Accept(const QSqlError &error) {
+    failure = error.isValid() ? Sentence(error) : QString();
+    return failure.isEmpty();
+}
+
+QString QuotedName(const QString &name) { return u'"' + QString(name).replace(u'"', "\"\""_L1) + u'"'; }
+
+} // namespace lanterra

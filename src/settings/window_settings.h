@@ -1,0 +1,43 @@
+#pragma once
+
+#include "settings/options.h"
+
+#include <array>
+
+namespace lanterra {
+
+/// What the main window keeps from one start to the next: five two-state values, and the path of the project
+/// that was open last. The third value tells whether a proxy is in force; the others are only carried along.
+class WindowSettings {
+public:
+    /// `base` is the path of the open project, empty for none. Both must outlive this.
+    WindowSettings(Options &storedOptions, const QString &base);
+
+    /// Reads the five values. If the first is neither 5 nor 6, all five get their first values and the result
+    /// is false: nothing else of the window's settings is to be read then.
+    bool Load();
+
+    /// Stores the five values, and the path if there is one.
+    void StoreWindowSettings();
+
+    /// Stores all values but the third, which reaches the store by StoreWindowSettings alone.
+    void StoreAllButProxy();
+
+    void SetProxyInForce(bool on) { values[proxyValue] = on ? valueOn : valueOff; }
+
+    /// The value chh1 to chh5, 5 for off or 6 for on. `number` is 1 to 5.
+    int Value(int number) const { return values.at(static_cast<std::size_t>(number - 1)); }
+
+private:
+    static constexpr int valueOff = 5;           ///< stored
+    static constexpr int valueOn = 6;            ///< stored
+    static constexpr std::size_t proxyValue = 2; ///< position of the third value
+
+    void Store(std::size_t position);
+
+    Options &options;
+    const QString &projectPath;
+    std::array<int, option::windowValues.size()> values;
+};
+
+} // namespace lanterra

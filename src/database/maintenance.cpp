@@ -112,7 +112,7 @@ bool Rebuild(const QString &path, const QString &scratchPath) {
 
 } // namespace
 
-bool CreateDatabase(const QString &path, const QStringList &statements) {
+bool CreateDatabase(const QString &path, const QStringList &statements, const DatabaseFiller &fill) {
     ScratchFile scratch(path);
     {
         SqliteConnection connection(scratch.Path(), SqliteConnection::Mode::Scratch);
@@ -120,7 +120,7 @@ bool CreateDatabase(const QString &path, const QStringList &statements) {
         if (!std::all_of(statements.cbegin(), statements.cend(), run))
             return false;
     }
-    return scratch.TakePlace();
+    return (!fill || fill(scratch.Path())) && scratch.TakePlace();
 }
 
 bool CompactDatabase(const QString &source, const QString &destination) {

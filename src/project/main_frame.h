@@ -1,0 +1,51 @@
+#pragma once
+
+#include "controls/control.h"
+
+#include <QString>
+
+namespace lanterra {
+
+/// The eight panes of the main window, by their names. One of them is on view.
+enum class Pane {
+    FrameAbout,
+    FrameDescription,
+    FrameOtherData,
+    FrameEngineList,
+    fraCat,
+    FrameSUBMIT,
+    FraSta,
+    fraSearch
+};
+
+/// The pointers that a long job shows.
+enum class MousePointer { Default = 0, Arrow = 1, Hourglass = 11, Busy = 99 };
+
+/// What belongs to the main window as a whole: its caption, the pane on view, its pointer.
+class MainFrame : public QObject {
+    Q_OBJECT
+
+public:
+    /// The caption is the product's name followed by the project's.
+    QString Caption() const;
+    void SetProjectName(const QString &name);
+
+    Pane ShownPane() const { return shownPane; }
+    void ShowPane(Pane pane);
+
+    MousePointer Pointer() const { return pointer; }
+    void SetPointer(MousePointer newPointer);
+
+signals:
+    void CaptionChanged(const QString &caption);
+    /// Also when the pane was on view already, so that it comes to the front.
+    void PaneShown(lanterra::Pane pane);
+    void PointerChanged(lanterra::MousePointer pointer);
+
+private:
+    QString projectName;
+    Pane shownPane = Pane::FrameAbout;
+    MousePointer pointer = MousePointer::Default;
+};
+
+} // namespace lanterra

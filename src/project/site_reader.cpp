@@ -1,0 +1,55 @@
+#include "project/site_reader.h"
+
+using namespace Qt::StringLiterals;
+
+namespace lanterra {
+
+namespace {
+
+int FirstRowVersion(DataControl &table) {
+    return table.MoveFirst() ? table.Number(u"Version"_s) : 0;
+}
+
+// The first row with an empty name ends the list, even if more rows follow.
+void ReadSites(DataControl &table, ListBox &list) {
+    QStringList names;
+    std::vector<bool> marks;
+    for (bool here = table.MoveFirst(); here; here = table.MoveNext()) {
+        const QString name = table.Text(u"Name"_s);
+        if (name.isEmpty())
+            break;
+        names.append(name);
+        marks.push_back(table.Boolean(u"Selected"_s));
+    }
+    list.SetItems(names);
+    list.SetMarks(marks);
+}
+
+void ReadDirectories(DataControl &table, ListBox &list) {
+    QStringList names;
+    for (bool here = table.MoveFirst(); here; here = table.MoveNext())
+        names.append(table.Text(u"Name"_s));
+    list.SetItems(names);
+}
+
+} // namespace
+
+void ReadSiteLists(Project &project, SiteDatabaseImport *import) {
+    if (project.path.Base.isEmpty())
+        return;
+    DataControl &own = project.database.Data2;
+    DataControl &master = project.database.Data1;
+    EnsureRecordSource(own, u"Data"_s);
+    EnsureRecordSource(master, u"Data"_s);
+    if (import && own.MoveFirst() && FirstRowVersion(master) > FirstRowVersion(own)) {
+        import->ImportSiteDatabase();
+        return;
+    }
+    ReadSites(own, project.lists.List1);
+    EnsureRecordSource(own, u"Categories"_s);
+    ReadDirectories(own, project.lists.List2);
+    project.lists.List3.Clear();
+    EnsureRecordSource(own, u"Data"_s);
+}
+
+} // namespace lanterra

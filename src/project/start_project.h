@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ports/dialogs.h"
+#include "ports/forms.h"
+#include "project/project_files.h"
+
+namespace lanterra {
+
+/// Finds a project for the start of the program, and doesn't let go before there is one.
+class StartProject {
+public:
+    StartProject(Project &openProject, ProjectFiles &projectFiles, Forms &formOpener, Dialogs &inputDialogs)
+        : project(openProject), files(projectFiles), forms(formOpener), dialogs(inputDialogs) {}
+
+    /// Takes the file of the command line if it exists, else what frmProjectDialog chooses, and loads it; without
+    /// either asks for the name of a new project until one is given, and creates it from the master. Its lists
+    /// are empty until the next load. `closing` ends the asking when the program ends. Yields.
+    void ChooseStartProject(const QString &commandLine, const EventQueue &queue);
+
+    /// Creates a project of the typed name in the folder for projects; asks before an existing file is replaced,
+    /// No as default. False for a name of which nothing is left, and for No.
+    bool CreateProject(const QString &typedName);
+
+private:
+    Project &project;
+    ProjectFiles &files;
+    Forms &forms;
+    Dialogs &dialogs;
+};
+
+} // namespace lanterra

@@ -1,0 +1,107 @@
+#include "reports/submission_report.h"
+
+#include "reports/date_texts.h"
+#include "reports/report_link.h"
+#include "reports/site_pages.h"
+#include "support/code_page.h"
+#include "support/product.h"
+#include "support/text_file.h"
+#include "support/whole_file.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace lanterra {
+
+namespace {
+
+// One pass over the record, so that a value that holds another value's placeholder stays as it is.
+QString Expand(const QString &record, const QHash<QString, QString> &values) {
+    QString expanded;
+    qsizetype from = 0;
+    for (qsizetype open = record.indexOf(u'{'); open >= 0; open = record.indexOf(u'{', open + 1)) {
+        const qsizetype close = record.indexOf(u'}', open);
+        const auto value = values.constFind(record.mid(open + 1, close - open - 1));
+        if (close < 0 || value == values.constEnd())
+            continue;
+        expanded += QStringView(record).mid(from, open - from);
+        expanded += *value;
+        from = close + 1;
+    }
+    expanded += QStringView(record).mid(from);
+    return expanded;
+}
+
+} // namespace
+
+SubmissionReport::SubmissionReport(Project &openProject, const RunResult &runResult, const Clock &systemClock,
+                                   EventQueue &eventQueue)
+    : project(openProject), result(runResult), clock(systemClock), queue(eventQueue) {}
+
+bool SubmissionReport::WriteSubmissionReport() {
+    project.path.SplitProjectPath();
+    QDir().mkpath(project.path.ProjectFolder + project.path.ProjectName);
+    QDir().mkpath(result.reportFolder);
+    WriteNotSelectedPages();
+
+    WholeFile file(result.reportFile);
+    const Values values = HeadValues();
+    bool good = true;
+    for (const QString &line : ReadFileText(u":/reports/submission_report.txt"_s).split(u'\n', Qt::SkipEmptyParts))
+        good = (line.startsWith(u'@') ? WriteRows(file, line) : WriteRecord(file, line, values)) && good;
+    return good && file.Commit();
+}
+
+// One page more than there are names: the entry behind the list is empty on a first run, and later can be a name
+// left from an earlier run, whose page is lost that way even if the site was selected this time. Kept, as the
+// report links to that page.
+void SubmissionReport::WriteNotSelectedPages() const {
+    const QString html = NotSelectedPage();
+    for (int index = 0; index <= result.NotSelectedCount() && NameList::Holds(index); ++index)
+        WriteSitePage(result.reportFolder, result.NotSelectedNames.At(index), html);
+}
+
+SubmissionReport::Values SubmissionReport::HeadValues() const {
+    const QDateTime now = clock.Now();
+    return {{u"URL"_s, project.record.txtURL.Text()},
+            {u"NAME"_s, project.record.txtName.Text()},
+            {u"EMAIL"_s, project.record.txtEmail.Text()},
+            {u"DATE"_s, ShortDate(now)},
+            {u"TIME"_s, ShortTime(now)},
+            {u"SECONDS"_s, QString::number(result.elapsedSeconds)},
+            {u"OK"_s, QString::number(result.SuccessfulCount())},
+            {u"BAD"_s, QString::number(result.FailedCount())},
+            {u"NOT"_s, QString::number(result.NotSelectedCount())},
+            {u"PRODUCT"_s, ProductAddress()},
+            {u"PROGRAM"_s, ReportFolderPath(project.path.AppPath())}};
+}
+
+bool SubmissionReport::WriteRecord(WholeFile &file, const QString &record, const Values &values) const {
+    const bool ownLineEnd = record.endsWith("\\n"_L1);
+    const QString text = Expand(ownLineEnd ? record.chopped(2) : record, values);
+    return file.Write(CodePage::Encode(text + (ownLineEnd ? u"\r\n\r\n"_s : u"\r\n"_s)));
+}
+
+bool SubmissionReport::WriteRows(WholeFile &file, const QString &loop) {
+    struct List {
+        const NameList &names;
+        int rows;
+    };
+    const QString name = loop.mid(1, loop.indexOf(u' ') - 1);
+    const QString record = loop.mid(loop.indexOf(u' ') + 1);
+    // The list of sites that were not selected has the row behind its last name, too.
+    const List list = name == "SuccessfulNames"_L1 ? List{result.SuccessfulNames, result.SuccessfulCount()}
+                      : name == "FailedNames"_L1   ? List{result.FailedNames, result.FailedCount()}
+                                                   : List{result.NotSelectedNames, result.NotSelectedCount() + 1};
+    bool good = true;
+    for (int index = 0; index < list.rows && NameList::Holds(index); ++index) {
+        const QString site = list.names.At(index);
+        const QString href = ReportLink(SitePagePath(result.reportFolder, site));
+        good = WriteRecord(file, record, {{u"HREF"_s, href}, {u"SITE"_s, site}}) && good;
+        queue.Yield();
+    }
+    return good;
+}
+
+} // namespace lanterra

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "database/database_files.h"
+#include "project/category_selection.h"
+#include "project/entry_handlers.h"
+#include "project/project_files.h"
+#include "project/site_selection.h"
+#include "project/start_project.h"
+#include "reports/statistics.h"
+#include "settings/web_browser_form.h"
+#include "submission/submission_run.h"
+
+namespace lanterra {
+
+/// The doors through which one program reaches the world. All must outlive it.
+struct Doors {
+    EventQueue &queue;
+    const Clock &clock;
+    Dialogs &dialogs;
+    Forms &forms;
+    DocumentOpener &documents;
+    SettingsStore &settings;
+    ChannelBank::ClientFactory makeClient;
+};
+
+/// One running program without its faces: every form's model and every procedure, made in the order in which they
+/// need each other. The window, the command line and tests work its controls and handlers.
+class Program {
+public:
+    /// `programFolder` holds the master database.
+    Program(const Doors &doors, const QString &programFolder);
+
+    Options options;
+    Hosts hosts;
+    DatabaseFiles databaseFiles;
+    Project project;
+    MainFrame frame;
+    StatusForm frmStatus;
+    RecentFile recentFile;
+
+    WindowSettings windowSettings;
+    SettingsForm frmSettings;
+    WebBrowserForm frmWebBrowser;
+    ProxySettings proxy;
+    DocumentViewer viewer;
+
+    ProjectFiles files;
+    StartProject startProject;
+    EntryHandlers entry;
+    SiteSelection siteSelection;
+    CategorySelection categorySelection;
+
+    RunResult result;
+    SubmissionReport report;
+    Statistics statistics;
+
+    SubmitForm submitForm;
+    ChannelBank channels;
+    RequestCollector collector;
+    HitCounter counter;
+    SubmissionRun run;
+};
+
+} // namespace lanterra

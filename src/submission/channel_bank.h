@@ -1,0 +1,63 @@
+#pragma once
+
+#include "controls/list_box.h"
+#include "ports/event_queue.h"
+#include "submission/submission_channel.h"
+
+#include <array>
+
+namespace lanterra {
+
+class TextBox;
+
+/// The five channels: hands sites to them and watches their time.
+class ChannelBank {
+public:
+    /// Makes the clients of the five channels, in order.
+    using ClientFactory = std::function<std::unique_ptr<HttpClient>()>;
+
+    struct Parts {
+        SubmitForm &form;
+        RunResult &result;
+        const ListBox &List1;
+        const TextBox &txtLimit; ///< seconds that a request may take, as a text
+        EventQueue &queue;
+        const Clock &clock;
+    };
+
+    ChannelBank(const Parts &theParts, const ClientFactory &makeClient);
+
+    SubmissionChannel &Channel(int number) { return *channels.at(static_cast<std::size_t>(number - 1)); }
+
+    void BeginRun();
+    void ClearDisplays();
+    void FreeAll();
+    void CancelAll();
+    void ShowIdle();
+
+    bool AnyFree() const;
+    bool AllFree() const;
+
+    /// Hands the site at `nextSite` to the lowest-numbered channel that has ended. That one channel is the only
+    /// candidate: if it is disabled the site gets no request and no verdict, and so do all sites behind it for as
+    /// long as no lower-numbered channel has ended. Yields once and runs the watchdog.
+    void Connect(const SiteRequest &request, int nextSite);
+
+    /// The watchdog: fails every channel that isn't free and whose time has passed.
+    void CheckChannelTimeouts();
+
+    /// Sleeps until an event arrives or the watchdog is due, then runs it. Yields.
+    void WaitForChannels();
+
+    int lastErrorSite = SubmissionChannel::noSite; ///< site of the last accepted Error event; nothing reads it
+
+private:
+    SubmissionChannel *Candidate();
+    std::chrono::milliseconds UntilNextTimeout() const;
+
+    Parts parts;
+    ResponseAnalysis headerScan;
+    std::array<std::unique_ptr<SubmissionChannel>, channelCount> channels;
+};
+
+} // namespace lanterra

@@ -1,0 +1,33 @@
+#include "submission/hit_counter.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace lanterra {
+
+HitCounter::HitCounter(std::unique_ptr<HttpClient> httpClient, const Hosts &outsideHosts, Options &userOptions,
+                       const QString &scratchPath)
+    : client(std::move(httpClient)), hosts(outsideHosts), options(userOptions), scratchFile(scratchPath) {
+    connect(client.get(), &HttpClient::Connected, this, [this] { client->SendGet(); });
+    connect(client.get(), &HttpClient::Closing, this, [this] { options.Set(option::counterAnswered, u"1"_s); });
+}
+
+void HitCounter::Fire() {
+    client->Abort();
+    const bool firstRun = options.Text(option::counterAnswered).isEmpty();
+    const QString address = hosts.Address(u"Counter"_s, firstRun ? u"First"_s : u"Later"_s);
+    if (address.isEmpty())
+        return;
+    client->SetTarget(address);
+    client->SetSaveFile(scratchFile);
+    client->SetRequestSwitchA(true);
+    client->SetRequestSwitchB(true);
+    client->ConnectToHost();
+}
+
+void HitCounter::RemoveScratchFile() const {
+    QFile::remove(scratchFile);
+}
+
+} // namespace lanterra

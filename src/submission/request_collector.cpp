@@ -1,0 +1,81 @@
+#include "submission/request_collector.h"
+
+#include "support/url_encode.h"
+
+using namespace Qt::StringLiterals;
+
+namespace lanterra {
+
+bool RequestCollector::CollectSubmissionData() {
+    DataControl &table = project.database.Data2;
+    EnsureRecordSource(table, u"Data"_s);
+    const RequestTemplate values(project.record);
+    files.mnuFileSave_Click();
+
+    requests.assign(static_cast<std::size_t>(project.lists.List1.ListCount()), {});
+    EnsureRecordSource(table, u"Data"_s);
+    const int rows = table.RowCount();
+    status.Show(u"Collecting submission data ..."_s, rows - 1);
+    for (int row = 0; row < rows && !status.StatusCancel && !queue.Closing(); ++row) {
+        if (ReturnToRow(table, u"Data"_s, row) && table.Boolean(u"Selected"_s))
+            CollectRow(row, values);
+        status.Advance(row);
+        queue.Yield();
+    }
+    const bool cancelled = status.StatusCancel;
+    status.Finish();
+    if (project.database.Data1.DatabaseName() != project.path.MasterFile())
+        project.database.BindMaster();
+    return !cancelled;
+}
+
+void RequestCollector::CollectRow(int row, const RequestTemplate &values) {
+    const auto index = static_cast<std::size_t>(row);
+    if (index >= requests.size())
+        return;
+    const DataControl &site = project.database.Data2;
+    const QString name = site.Text(u"Name"_s);
+    QString query = site.Text(u"Query"_s);
+    data_parsiraj_query(query, name, values);
+    requests[index] = {name, site.Text(u"Action"_s), query, site.Text(u"Method"_s)};
+}
+
+QString RequestCollector::data_parsiraj_query(QString &query, const QString &name, const RequestTemplate &values) {
+    query = values.Expand(query, [&] { return data_parsiraj_query_kategorije(name); });
+    return query;
+}
+
+QString RequestCollector::data_parsiraj_query_kategorije(const QString &name) {
+    DataControl &table = project.database.Data1;
+    if (table.DatabaseName() != project.database.Data2.DatabaseName()) {
+        table.Close();
+        table.SetDatabaseName(project.database.Data2.DatabaseName());
+        table.SetRecordSource(QString());
+    }
+    EnsureRecordSource(table, u"Categories"_s);
+    for (bool here = table.MoveFirst(); here; here = table.MoveNext()) {
+        if (table.Text(u"Name"_s) == name)
+            return UrlEncode(table.Text(u"Selected"_s));
+    }
+    return {};
+}
+
+QString RequestCollector::data_proveri_selektovane_kategorije(const QString &selectedNames) {
+    DataControl &table = project.database.Data2;
+    const QString categories = u"Categories"_s;
+    EnsureRecordSource(table, categories);
+    const int rows = table.RowCount();
+    for (int row = 0; row < rows && ReturnToRow(table, categories, row); ++row) {
+        const QString name = table.Text(u"Name"_s);
+        // A category that was never written (Null) passes; only one that is the empty text is missing.
+        const bool missing = !table.IsNull(u"Selected"_s) && table.Text(u"Selected"_s).isEmpty();
+        if (missing && selectedNames.contains(name, Qt::CaseInsensitive)) {
+            project.lists.List2.SetText(name);
+            return name;
+        }
+        queue.Yield();
+    }
+    return {};
+}
+
+} // namespace lanterra

@@ -1,0 +1,125 @@
+#pragma once
+
+#include "controls/button.h"
+#include "ports/clock.h"
+#include "ports/dialogs.h"
+#include "ports/event_queue.h"
+#include "ports/forms.h"
+#include "project/project_files.h"
+#include "reports/statistics.h"
+#include "reports/submission_report.h"
+#include "settings/document_viewer.h"
+#include "settings/proxy_settings.h"
+#include "submission/channel_bank.h"
+#include "submission/hit_counter.h"
+#include "submission/request_collector.h"
+#include "submission/run_extensions.h"
+
+namespace lanterra {
+
+/// One pass over the selected sites for one URL: the checks, the collection, the dispatch over the channels, the
+/// end. There is one run at a time, and the press that began it stays on the stack until its end. Meanwhile events
+/// of all kinds come in at its yields, so the flags are the only way in which handlers talk to it.
+class SubmissionRun {
+public:
+    struct Parts {
+        Project &project;
+        MainFrame &frame;
+        ProjectFiles &files;
+        SettingsForm &frmSettings;
+        ProxySettings &proxy;
+        ChannelBank &channels;
+        SubmitForm &form;
+        RequestCollector &collector;
+        HitCounter &counter;
+        RunResult &result;
+        SubmissionReport &report;
+        Statistics &statistics;
+        DocumentViewer &viewer;
+        Dialogs &dialogs;
+        Forms &forms;
+        EventQueue &queue;
+        const Clock &clock;
+    };
+
+    explicit SubmissionRun(const Parts &theParts);
+
+    /// What the popup's other modes and the upgrade check are; none, and their entries do nothing.
+    void SetModes(SubmissionModes *submissionModes) { modes = submissionModes; }
+    void SetUpgradeCheck(UpgradeCheck *upgradeCheck) { upgrade = upgradeCheck; }
+
+    /// "SUBMIT": starts a run and returns at its end. During a run it starts nothing; it releases Pause and makes
+    /// a job over several URLs skip one. Yields.
+    void cmdStart_Click();
+
+    /// Entries of the popup that cmdStart shows. An entry of another mode leaves modeUnchosen as it is.
+    void mnuAuto_Click();
+    void mnuMultiple_Click();
+
+    /// "Pause": holds the dispatch until the next press of cmdStart. While idle that press then makes its whole
+    /// run inside this call. Channels in flight go on, and the watchdog stands still. Yields.
+    void Command1_Click();
+
+    /// "Cancel": aborts all channels; sites without a verdict stay without one.
+    void cmdCancel_Click();
+    /// Entries of the popup that cmdCancel shows during a job over several URLs.
+    void mnuCancelCurrent_Click() { ++urlCounter; }
+    void mnuCancelEntire_Click() { entireCancel = true; }
+
+    /// A channel's button and its popup's entries; `number` is 1 to 5.
+    void kan_Click(int number);
+    void mnuAbort_Click(int number) { parts.channels.Channel(number).mnuAbort_Click(); }
+    void mnuDisabled_Click(int number) { parts.channels.Channel(number).mnuDisabled_Click(); }
+
+    bool RunActive() const { return runActive; }
+
+    // The state that a job over several URLs shares with the run.
+    int urlCounter = 0;        ///< number of the current URL, raised at each close of a run
+    bool multiIdle = true;     ///< no job drives the run
+    bool multiActive = false;  ///< a job has set reportFolder and reportFile, which stay; lowered at the end of a run
+    bool multiChosen = false;  ///< the popup's entry for several URLs was taken
+    bool entireCancel = false; ///< the job ends behind the current URL
+    bool modeUnchosen = false; ///< no entry of the popup was taken yet
+
+private:
+    void DeriveReportPaths();
+    bool ModeIsAutomated();
+    bool EnsureProjectFile();
+    void BeginRun();
+
+    bool PassesChecks();
+    bool FieldsAreFilled();
+    bool CategoriesAreChosen();
+    void RefuseRun(const QString &message, Pane pane);
+
+    void Prepare();
+    void PrepareReportPages();
+    void CorrectEntries();
+    void LockEntries(bool locked);
+    void CollectRequests();
+
+    void Dispatch();
+    void DispatchOne();
+    void ShowCounts();
+    void EndRun();
+    void DrainChannels();
+    void CompleteNotSelected();
+    void ExplainMissingVerdicts();
+    void CloseRun();
+    void SetRunActive(bool active);
+
+    Parts parts;
+    SubmissionModes *modes = nullptr;
+    UpgradeCheck *upgrade = nullptr;
+
+    bool runActive = false;
+    bool cancelRequested = false;
+    bool pauseReleased = true;
+    bool saveRefused = false; ///< would stop the run; nothing raises it, so a cancelled Save As lets the run go on
+    int phase = 0;            ///< 1 while sites are dispatched, 2 when all are done, 0 when closed; only written
+    int nextSite = 0;         ///< index into List1
+    float startTime = 0;      ///< Clock::Timer at the start of dispatch
+    QString selectedNames;    ///< names of the selected sites, each with CR LF
+};
+
+} // namespace lanterra

@@ -1,0 +1,90 @@
+#include "tests/database/database_fixture.h"
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class MaintenanceTest : public DatabaseFixture {
+protected:
+    void GivenNumberedRows(int count) {
+        QStringList names;
+        for (int row = 0; row < count; ++row)
+            names.append(QString::number(row));
+        GivenRows(names);
+    }
+
+    const QString copy = u"copy.bak"_s;
+};
+
+TEST_F(MaintenanceTest, CompactionKeepsRowsAndOrderAndFreesRoom) {
+    GivenNumberedRows(600);
+    {
+        const WalkTransaction walk(control);
+        for (int row = 0; row < 500; ++row) {
+            control.MoveFirst();
+            control.Delete();
+        }
+    }
+    const QStringList names = Names(control);
+    control.Close();
+    WriteWholeFile(Path(copy), "what stood there before");
+    EXPECT_TRUE(CompactDatabase(Path(), Path(copy)));
+    EXPECT_LT(QFile(Path(copy)).size(), QFile(Path()).size());
+    EXPECT_EQ(FilesLeft(), QStringList({copy, u"sites.rts"_s}));
+    QFile::remove(Path());
+    QFile::rename(Path(copy), Path());
+    EXPECT_EQ(StoredNames(), names);
+    EXPECT_EQ(names.size(), 100);
+}
+
+TEST_F(MaintenanceTest, CompactionOfAnUnsoundFileLeavesTheOldCopy) {
+    WriteWholeFile(Path(copy), "old");
+    WriteWholeFile(Path(), "no database at all");
+    EXPECT_FALSE(CompactDatabase(Path(), Path(copy)));
+    EXPECT_FALSE(CompactDatabase(Path(u"missing"_s), Path(copy)));
+    EXPECT_EQ(BytesOf(Path(copy)), QByteArray("old"));
+    EXPECT_EQ(FilesLeft(), QStringList({copy, u"sites.rts"_s}));
+}
+
+TEST_F(MaintenanceTest, CompactionNeverPutsAFileUnderAForeignJournal) {
+    WriteWholeFile(Path(copy) + u"-journal"_s, "undo");
+    EXPECT_FALSE(CompactDatabase(Path(), Path(copy)));
+    EXPECT_FALSE(QFile::exists(Path(copy)));
+}
+
+TEST_F(MaintenanceTest, RepairLeavesASoundFileAsItIs) {
+    GivenNumberedRows(3);
+    control.Close();
+    const QByteArray sound = BytesOf(Path());
+    EXPECT_TRUE(RepairDatabase(Path()));
+    EXPECT_EQ(BytesOf(Path()), sound);
+}
+
+TEST_F(MaintenanceTest, RepairKeepsTheRowsOnBothSidesOfTheDamage) {
+    GivenNumberedRows(3000);
+    control.Close();
+    QByteArray damaged = BytesOf(Path());
+    damaged.replace(4096 * 4, 4096, QByteArray(4096, '\x55'));
+    WriteWholeFile(Path(), damaged);
+    ASSERT_FALSE(Bind(control));
+    control.Close();
+    EXPECT_TRUE(RepairDatabase(Path()));
+    const QStringList names = StoredNames();
+    EXPECT_EQ(names.first(), u"0"_s);
+    EXPECT_EQ(names.last(), u"2999"_s);
+    EXPECT_GT(names.size(), 2000);
+    EXPECT_LT(names.size(), 3000);
+    EXPECT_EQ(FilesLeft(), QStringList({u"sites.rts"_s}));
+}
+
+TEST_F(MaintenanceTest, RepairGivesUpOnAFileWithoutReadableTables) {
+    const QByteArray sound = BytesOf(Path());
+    for (const QByteArray &bytes : {QByteArray(), QByteArray("text"), sound.first(100)}) {
+        WriteWholeFile(Path(), bytes);
+        EXPECT_FALSE(RepairDatabase(Path()));
+        EXPECT_EQ(BytesOf(Path()), bytes);
+    }
+}
+
+} // namespace

@@ -1,0 +1,132 @@
+#include "tests/database/database_fixture.h"
+#include "tests/file_size_limit.h"
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class WalkTransactionTest : public DatabaseFixture {
+protected:
+    WalkTransactionTest() { GivenRows({u"Alta"_s, u"Beta"_s}); }
+
+    static bool Rename(DataControl &bound, const QString &name) {
+        return bound.Edit() && bound.SetText(nameField, name) && bound.Update();
+    }
+
+    const QStringList before{u"Alta"_s, u"Beta"_s};
+};
+
+TEST_F(WalkTransactionTest, StoresTheRowsOfAllControlsWhenTheOutermostWalkEnds) {
+    Bind(second);
+    WalkTransaction walk(control);
+    {
+        const WalkTransaction inner(second);
+        EXPECT_TRUE(Rename(second, u"Omega"_s));
+        EXPECT_TRUE(Add(control, u"Gamma"_s));
+    }
+    EXPECT_EQ(Names(second), QStringList({u"Omega"_s, u"Beta"_s, u"Gamma"_s}));
+    EXPECT_EQ(StoredNames(), before);
+    EXPECT_TRUE(walk.Commit());
+    EXPECT_EQ(StoredNames(), QStringList({u"Omega"_s, u"Beta"_s, u"Gamma"_s}));
+    EXPECT_TRUE(Rename(control, u"Sigma"_s));
+    EXPECT_EQ(StoredNames(), QStringList({u"Omega"_s, u"Beta"_s, u"Sigma"_s}));
+}
+
+TEST_F(WalkTransactionTest, CloseStoresWhatWasReached) {
+    WalkTransaction walk(control);
+    Rename(control, u"Omega"_s);
+    control.Close();
+    EXPECT_EQ(StoredNames(), QStringList({u"Omega"_s, u"Beta"_s}));
+    EXPECT_TRUE(walk.Commit());
+}
+
+TEST_F(WalkTransactionTest, GoesOnBehindACloseWhileAnotherControlHoldsTheFile) {
+    Bind(second);
+    WalkTransaction walk(control);
+    Rename(control, u"Omega"_s);
+    control.Close();
+    EXPECT_TRUE(Add(second, u"Gamma"_s));
+    EXPECT_EQ(StoredNames(), QStringList({u"Omega"_s, u"Beta"_s}));
+    EXPECT_TRUE(walk.Commit());
+    EXPECT_EQ(StoredNames(), QStringList({u"Omega"_s, u"Beta"_s, u"Gamma"_s}));
+}
+
+TEST_F(WalkTransactionTest, ACommitThatMeetsAReaderLeavesAllRowsAsTheyWere) {
+    Bind(second);
+    SqliteConnection stranger(Path(), SqliteConnection::Mode::ReadOnly);
+    QSqlQuery *reading = stranger.Execute(u"SELECT * FROM Sites"_s);
+    ASSERT_TRUE(reading && stranger.Next(*reading));
+    WalkTransaction walk(control);
+    EXPECT_TRUE(Rename(control, u"Omega"_s));
+    EXPECT_TRUE(Add(second, u"Gamma"_s));
+    EXPECT_FALSE(walk.Commit());
+    EXPECT_EQ(control.Failure(), u"The file is in use by another program."_s);
+    EXPECT_EQ(Names(control), before);
+    EXPECT_EQ(Names(second), before);
+    reading->finish();
+    EXPECT_EQ(StoredNames(), before);
+    WalkTransaction next(control);
+    EXPECT_TRUE(Add(control, u"Delta"_s));
+    EXPECT_TRUE(next.Commit());
+}
+
+TEST_F(WalkTransactionTest, ALockedFileFailsTheWholeWalkAtOnce) {
+    SqliteConnection stranger(Path(), SqliteConnection::Mode::ReadWrite);
+    ASSERT_TRUE(stranger.Run(u"BEGIN IMMEDIATE"_s));
+    WalkTransaction walk(control);
+    EXPECT_FALSE(Rename(control, u"Omega"_s));
+    stranger.Run(u"ROLLBACK"_s);
+    control.MoveLast();
+    EXPECT_FALSE(Rename(control, u"Sigma"_s)) << "half a walk must not be stored";
+    EXPECT_FALSE(walk.Commit());
+    EXPECT_EQ(Names(control), before);
+    EXPECT_EQ(StoredNames(), before);
+}
+
+TEST_F(WalkTransactionTest, AFullDiskLeavesAllRowsAsTheyWere) {
+    const qint64 size = QFile(Path()).size();
+    {
+        const FileSizeLimit fullDisk(static_cast<rlim_t>(size));
+        WalkTransaction walk(control);
+        Rename(control, u"Omega"_s);
+        control.Edit();
+        control.SetText(u"Note"_s, QString(200000, u'x'));
+        control.Update();
+        EXPECT_FALSE(walk.Commit());
+    }
+    EXPECT_EQ(Names(control), before);
+    control.Close();
+    EXPECT_EQ(StoredNames(), before);
+    EXPECT_EQ(FilesLeft(), QStringList({u"sites.rts"_s}));
+}
+
+TEST_F(WalkTransactionTest, AKilledSaveIsRolledBackAtTheNextOpening) {
+    control.Close();
+    SqliteConnection dying(Path(), SqliteConnection::Mode::ReadWrite);
+    // A cache of one page makes the pages of the open transaction reach the file.
+    dying.Run(u"PRAGMA cache_size = 1"_s);
+    dying.Run(u"BEGIN"_s);
+    dying.Run(u"DELETE FROM Sites"_s);
+    for (int row = 0; row < 200; ++row)
+        dying.Run(u"INSERT INTO Sites (Note) VALUES (?)"_s, {QString(200, u'x')});
+    ASSERT_TRUE(BytesOf(Path()).contains("xxxx"));
+    QFile::copy(Path(), Path(u"crashed.rts"_s));
+    QFile::copy(Path() + u"-journal"_s, Path(u"crashed.rts-journal"_s));
+    dying.Run(u"ROLLBACK"_s);
+
+    second.SetDatabaseName(Path(u"crashed.rts"_s));
+    second.SetRecordSource(u"Sites"_s);
+    EXPECT_TRUE(second.Refresh());
+    EXPECT_EQ(Names(second), before);
+    second.Close();
+    EXPECT_EQ(FilesLeft(), QStringList({u"crashed.rts"_s, u"sites.rts"_s}));
+}
+
+TEST_F(WalkTransactionTest, OnAClosedControlItDoesNothing) {
+    control.Close();
+    WalkTransaction walk(control);
+    EXPECT_TRUE(walk.Commit());
+}
+
+} // namespace

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "park/answer_table.h"
+#include "park/behaviour.h"
+#include "park/http_message.h"
+#include "park/park_pages.h"
+#include "park/received_log.h"
+#include "park/site_pages.h"
+#include "park/site_table.h"
+
+namespace lanterra {
+
+/// The practice web without its sockets: gives the answer to each request and keeps what the sites received.
+class Park {
+public:
+    /// `ownOrigin` is "http://" with the server's host and port. It stands in absolute redirections; nothing
+    /// that a peer says does.
+    explicit Park(QString ownOrigin);
+
+    HttpAnswer Answer(const HttpRequest &request);
+
+    /// The answer to bytes that are no request.
+    HttpAnswer Refuse(int status) const;
+
+    /// The behaviour at this path, nullptr if the path is none's.
+    const Behaviour *BehaviourAt(const QByteArray &path) const;
+    const Behaviour *BehaviourNamed(const QString &name) const { return behaviours.Find(name); }
+
+    const ReceivedLog &Received() const { return received; }
+
+private:
+    HttpAnswer AnswerSite(const PracticeSite &site, const HttpRequest &request);
+    HttpAnswer Submit(const PracticeSite &site, const HttpRequest &request);
+    HttpAnswer SiteAnswer(const PracticeSite &site, const AnswerText &text,
+                          const QHash<QString, QString> &values);
+    QString Judge(const PracticeSite &site, const QList<FormField> &fields, QString &faultyField) const;
+    HttpAnswer Count(const HttpRequest &request);
+    HttpAnswer Message(const QString &answerKey) const;
+
+    QString origin;
+    SiteTable sites;
+    AnswerTable answers;
+    BehaviourTable behaviours;
+    SitePages sitePages;
+    ParkPages parkPages;
+    ReceivedLog received;
+    QByteArray frontPage; ///< never changes, so it is made once
+};
+
+} // namespace lanterra

@@ -1,0 +1,59 @@
+#include "park/park_options.h"
+
+#include <QCommandLineParser>
+
+using namespace Qt::StringLiterals;
+
+namespace lanterra {
+
+namespace {
+
+constexpr int longestLatency = 600'000; // ten minutes
+
+/// The option's value as a number from 0 to `maximum`. Otherwise the options become a wrong use.
+int NumberOption(const QCommandLineParser &parser, const QString &name, int maximum, ParkOptions &options) {
+    const QString text = parser.value(name);
+    bool valid = false;
+    const int number = text.toInt(&valid);
+    if (valid && number >= 0 && number <= maximum)
+        return number;
+    options.task = ParkOptions::Task::WrongUse;
+    options.text = u"--%1 takes a number from 0 to %2, not \"%3\""_s.arg(name).arg(maximum).arg(text);
+    return 0;
+}
+
+} // namespace
+
+ParkOptions ReadParkOptions(const QStringList &arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        u"Serves a small practice web on this computer only: search engines, directories and link lists\n"
+        "to submit pages to, a page that shows what they received, and servers that misbehave.\n"
+        "Open the address that it prints in a browser; Ctrl-C ends it."_s);
+    parser.addOptions({{{u"h"_s, u"help"_s}, u"Shows this help."_s},
+                       {{u"v"_s, u"version"_s}, u"Shows the version."_s},
+                       {u"port"_s, u"Listens on port N; 0 takes a free one."_s, u"N"_s, u"8571"_s},
+                       {u"latency"_s, u"Delays the first byte of every answer."_s, u"MS"_s, u"0"_s},
+                       {u"log"_s, u"Appends one line a request to FILE."_s, u"FILE"_s},
+                       {u"list"_s, u"Lists the behaviours under /behave/ and ends."_s}});
+    ParkOptions options;
+    if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
+        const bool extra = parser.errorText().isEmpty();
+        options.task = ParkOptions::Task::WrongUse;
+        options.text = extra ? u"Unexpected argument '%1'."_s.arg(parser.positionalArguments().first())
+                             : parser.errorText();
+        return options;
+    }
+    if (parser.isSet(u"list"_s))
+        options.task = ParkOptions::Task::List;
+    options.logPath = parser.value(u"log"_s);
+    options.port = static_cast<quint16>(NumberOption(parser, u"port"_s, 65535, options));
+    options.latency = NumberOption(parser, u"latency"_s, longestLatency, options);
+    if (parser.isSet(u"version"_s))
+        options = {ParkOptions::Task::Version, 0, 0, {}, u"lanterra-park " LANTERRA_VERSION "\n"_s};
+    if (parser.isSet(u"help"_s))
+        options = {ParkOptions::Task::Help, 0, 0, {}, parser.helpText()};
+    return options;
+}
+
+} // namespace lanterra

@@ -1,0 +1,35 @@
+#include "park/park_options.h"
+#include "tests/qt_printing.h"
+
+#include <gtest/gtest.h>
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+ParkOptions Read(const QString &line) {
+    return ReadParkOptions((u"lanterra-park "_s + line).simplified().split(u' '));
+}
+
+TEST(ParkOptions, HaveDefaultsAndTakeValues) {
+    EXPECT_EQ(Read({}).port, 8571);
+    const ParkOptions options = Read(u"--port 0 --latency=250 --log here.log"_s);
+    EXPECT_EQ(options.task, ParkOptions::Task::Serve);
+    EXPECT_EQ(options.port, 0);
+    EXPECT_EQ(options.latency, 250);
+    EXPECT_EQ(options.logPath, u"here.log"_s);
+    EXPECT_EQ(Read(u"--list"_s).task, ParkOptions::Task::List);
+}
+
+TEST(ParkOptions, NameWhatIsWrong) {
+    EXPECT_EQ(Read(u"--port 65536"_s).text, u"--port takes a number from 0 to 65535, not \"65536\""_s);
+    EXPECT_EQ(Read(u"--list --latency -1"_s).text,
+              u"--latency takes a number from 0 to 600000, not \"-1\""_s);
+    for (const QString &line : {u"--port"_s, u"--colour"_s, u"front"_s, u"--port 80x"_s}) {
+        EXPECT_EQ(Read(line).task, ParkOptions::Task::WrongUse) << line.toStdString();
+        EXPECT_FALSE(Read(line).text.isEmpty());
+    }
+}
+
+} // namespace

@@ -1,7 +1,10 @@
 #include "reports/site_pages.h"
 
+#include "support/code_page.h"
 #include "support/file_names.h"
 #include "support/text_file.h"
+
+#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -16,8 +19,14 @@ bool CanHavePage(const QString &siteName) {
 }
 
 void WriteSitePage(const QString &reportFolder, const QString &siteName, const QString &html) {
-    if (CanHavePage(siteName))
-        WriteFileText(SitePagePath(reportFolder, siteName), html);
+    if (!CanHavePage(siteName))
+        return;
+    // A new file in the place of the old one, without a flush of the disk: a run writes hundreds of pages, and none
+    // of them is worth waiting for.
+    QFile page(SitePagePath(reportFolder, siteName));
+    page.remove();
+    if (page.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        page.write(CodePage::Encode(html));
 }
 
 // Both pages are fixed texts. The blank that is missing before "vlink" in the first one belongs to it.

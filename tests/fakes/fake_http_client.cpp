@@ -19,7 +19,7 @@ void FakeHttpClient::ConnectToHost() {
 }
 
 void FakeHttpClient::Receive(const QByteArray &header, const QByteArray &body) {
-    if (QFile file(SaveFile()); file.open(QIODevice::WriteOnly))
+    if (QFile file(SaveFile()); !SaveFile().isEmpty() && file.open(QIODevice::WriteOnly))
         file.write(body);
     bodyBytes += body.size();
     emit Data(header + body);

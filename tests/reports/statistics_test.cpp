@@ -1,0 +1,88 @@
+#include "tests/fakes/program_fixture.h"
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class StatisticsTest : public ProgramFixture {
+protected:
+    StatisticsTest() { GivenSites({u"Alta"_s, u"Beta"_s}); }
+
+    void GivenSession(const QStringList &successful, const QStringList &failed, int seconds = 7) {
+        RunResult result;
+        result.Begin(2);
+        for (const QString &name : successful)
+            result.AddSuccess(name, 0);
+        for (const QString &name : failed)
+            result.AddFailure(name, 0);
+        result.elapsedSeconds = seconds;
+        ASSERT_TRUE(Stats().AppendSessionRow(result));
+    }
+    QString Cell(int row, int column) {
+        return Stats().DBGrid1.data(Stats().DBGrid1.index(row, column), Qt::DisplayRole).toString();
+    }
+    Statistics &Stats() { return program->statistics; }
+};
+
+TEST_F(StatisticsTest, ShowsSessionsWithTheirTotals) {
+    GivenSession({u"Alta"_s, u"Beta"_s}, {});
+    clock.Advance(std::chrono::hours(1));
+    GivenSession({}, {u"Alta"_s}, -86000);
+    Stats().cmdOrder_Click();
+
+    EXPECT_EQ(Stats().Label42.Caption(), u"2"_s);
+    EXPECT_EQ(Stats().Label44.Caption(), u"2"_s);
+    EXPECT_EQ(Stats().Label45.Caption(), u"1"_s);
+    EXPECT_EQ(Stats().Label46.Caption(), u"3"_s);
+    EXPECT_EQ(program->frame.ShownPane(), Pane::FraSta);
+    ASSERT_EQ(Stats().DBGrid1.rowCount(), 2);
+    EXPECT_EQ(Stats().Label47.Caption(), Cell(1, 0));
+    EXPECT_TRUE(Cell(0, 0).contains(u", "_s));
+    EXPECT_NE(Cell(0, 0), Cell(1, 0));
+    const QStringList first{u"http://www.page.example/"_s, u"x"_s, u"2"_s, u"2"_s, u"0"_s, u"7"_s,
+                            u"Alta\r\nBeta\r\n"_s, u""_s};
+    for (int column = 1; column < SessionGrid::fieldCount; ++column)
+        EXPECT_EQ(Cell(0, column), first.at(column - 1));
+    EXPECT_EQ(Cell(1, 6), u"-86000"_s);
+    EXPECT_EQ(Cell(1, 8), u"Alta\r\n"_s);
+}
+
+TEST_F(StatisticsTest, WithoutSessionsTheLastDateStays) {
+    Stats().Label47.SetCaption(u"before"_s);
+    Stats().cmdOrder_Click();
+    EXPECT_EQ(Stats().Label42.Caption(), u"0"_s);
+    EXPECT_EQ(Stats().Label46.Caption(), u"0"_s);
+    EXPECT_EQ(Stats().Label47.Caption(), u"before"_s);
+}
+
+TEST_F(StatisticsTest, ClearAsksAndKeepsTheLabelsUntilThePaneOpensAgain) {
+    GivenSession({u"Alta"_s}, {});
+    Stats().cmdOrder_Click();
+    dialogs.answers = {BoxAnswer::No, BoxAnswer::Yes};
+    Stats().Command10_Click();
+    EXPECT_EQ(Stats().DBGrid1.rowCount(), 1);
+    Stats().Command10_Click();
+    EXPECT_EQ(dialogs.boxes.back().text, u"Are you sure you want to delete project statistics ?"_s);
+    EXPECT_EQ(dialogs.boxes.back().defaultAnswer, BoxAnswer::No);
+    EXPECT_EQ(Stats().DBGrid1.rowCount(), 0);
+    EXPECT_EQ(Stats().Label42.Caption(), u"1"_s);
+    Stats().cmdOrder_Click();
+    EXPECT_EQ(Stats().Label42.Caption(), u"0"_s);
+
+    // The commands that need the sites turn the control back from the statistics.
+    program->siteSelection.mnuEngNot_Click();
+    EXPECT_EQ(program->project.lists.List1.SelCount(), 2);
+}
+
+TEST_F(StatisticsTest, FollowsTheProjectThatIsOpen) {
+    GivenSession({u"Alta"_s}, {});
+    GivenOpenProject(u"Other"_s);
+    Stats().cmdOrder_Click();
+    EXPECT_EQ(Stats().Label42.Caption(), u"0"_s);
+    program->files.OpenProject(home.filePath(u"Projects/Project1.rts"_s));
+    Stats().cmdOrder_Click();
+    EXPECT_EQ(Stats().Label42.Caption(), u"1"_s);
+}
+
+} // namespace

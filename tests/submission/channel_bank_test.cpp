@@ -1,0 +1,254 @@
+#include "tests/submission/run_fixture.h"
+
+#include <QDir>
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class ChannelBankTest : public RunFixture {
+protected:
+    SubmissionChannel &Channel(int number) { return program->channels.Channel(number); }
+};
+
+TEST_F(ChannelBankTest, FillsTheChannelsInOrderAndThenTheLowestThatHasEnded) {
+    GivenSites(Numbered(7));
+    WhenWaiting([&] {
+        for (int channel = 1; channel <= channelCount; ++channel) {
+            EXPECT_EQ(Site(channel), u"Site %1."_s.arg(channel));
+            EXPECT_EQ(Status(channel), u"finding site..."_s);
+            EXPECT_EQ(Picture(channel), ButtonPicture::Dispatched);
+        }
+        Answer(4, "200 OK");
+        Answer(2, "200 OK");
+    });
+    WhenWaiting([&] {
+        EXPECT_EQ(Site(2), u"Site 6."_s);
+        EXPECT_EQ(Site(4), u"Site 7."_s);
+        for (int channel : {1, 2, 3, 4, 5})
+            Answer(channel, "200 OK");
+    });
+    PressSubmit();
+    EXPECT_EQ(Successful().first(), u"Site 4."_s);
+    EXPECT_EQ(Successful().size(), 7);
+}
+
+TEST_F(ChannelBankTest, ShowsWhatAChannelDoes) {
+    GivenSites(Numbered(1));
+    WhenWaiting([&] {
+        emit Client(1).Connected();
+        EXPECT_EQ(Status(1), u"connected"_s);
+        EXPECT_EQ(Picture(1), ButtonPicture::Connected);
+        Client(1).Receive("HTTP/1.1 200 OK\r\n\r\n");
+        emit Client(1).Done();
+        EXPECT_EQ(Status(1), u"done!"_s);
+        EXPECT_EQ(Picture(1), ButtonPicture::Connected);
+    });
+    PressSubmit();
+    EXPECT_EQ(Picture(1), ButtonPicture::Idle);
+    EXPECT_EQ(Site(1), u"Site 1."_s);
+
+    WhenWaiting([&] {
+        Answer(1, "503 Busy");
+        EXPECT_EQ(Status(1), u"connected"_s); // a failure writes no word
+        EXPECT_EQ(Picture(1), ButtonPicture::Idle);
+    });
+    PressSubmit();
+    EXPECT_EQ(Outcome(0).reason, u"503 Busy"_s);
+    EXPECT_EQ(Outcome(0).status, 503);
+    EXPECT_EQ(Outcome(0).bytes, 11);
+}
+
+TEST_F(ChannelBankTest, JudgesByTheStatusClassAlone) {
+    GivenSites(Numbered(1));
+    const QList<std::pair<QByteArray, bool>> answers{
+        {"200 OK", true},        {"204 No Content", true}, {"302 Found", true},      {"304 Not Modified", true},
+        {"400 Bad", false},      {"499 Odd", false},       {"500 Broken", false},    {"599 Odd", false},
+        {"600 Beyond", true},    {"200 Not Found", true}};
+    for (const auto &[status, good] : answers) {
+        EverySiteAnswers(status);
+        PressSubmit();
+        EXPECT_EQ(Successful().size(), good ? 1 : 0) << status.toStdString();
+        EXPECT_EQ(Failed().size(), good ? 0 : 1) << status.toStdString();
+    }
+}
+
+TEST_F(ChannelBankTest, ARedirectionIsASuccessWithAPageOfOurOwn) {
+    GivenSites(Numbered(2));
+    WhenWaiting([&] {
+        Answer(1, "302 Found", "Location: http://next.example/a?b=c\r\nLocation: http://second.example/\r\n");
+        Answer(2, "302 Found");
+    });
+    PressSubmit();
+    EXPECT_EQ(Successful().size(), 2);
+    const QString page =
+        u"<html><head><title>Your entry has been submitted! </title></head><body bgcolor=#FFFFFF text=#000000>"
+        u"<center><h1>Your entry has been submitted! </h1><a href=%1>%2</a></body></html>\r\n"_s;
+    EXPECT_EQ(ReadPage(u"Site 1."_s), page.arg(u"http://next.example/a?b=c"_s, u"Site 1."_s));
+    EXPECT_EQ(ReadPage(u"Site 2."_s), page.arg(QString(), u"Site 2."_s));
+}
+
+TEST_F(ChannelBankTest, AnErrorFailsTheSiteWithItsReasonAndLeavesThePage) {
+    GivenSites(Numbered(1));
+    WhenWaiting([&] { Fail(1); });
+    PressSubmit();
+    EXPECT_EQ(Failed(), QStringList{u"Site 1."_s});
+    EXPECT_EQ(Outcome(0).reason, u"Connection refused"_s);
+    EXPECT_EQ(Outcome(0).status, std::nullopt);
+    EXPECT_TRUE(ReadPage(u"Site 1."_s).contains(u"Busy server or out of use."_s));
+    EXPECT_EQ(program->channels.lastErrorSite, 0);
+}
+
+TEST_F(ChannelBankTest, TheWatchdogCutsOffAtTheLimitCountedFromDispatch) {
+    GivenSites(Numbered(1));
+    Record().txtLimit.SetText(u"20"_s);
+    WhenWaiting([&] {
+        emit Client(1).Connected();
+        clock.Advance(std::chrono::seconds(20));
+        program->channels.CheckChannelTimeouts();
+        EXPECT_EQ(Result().FailedCount(), 0); // reached is not past
+        emit Client(1).Data("HTTP/1.1 200 OK\r\n\r\nstill coming");
+        clock.Advance(std::chrono::milliseconds(100));
+    });
+    PressSubmit();
+    EXPECT_EQ(Client(1).aborts, 1);
+    EXPECT_EQ(Failed(), QStringList{u"Site 1."_s});
+    EXPECT_EQ(Outcome(0).reason, u"no answer within 20 s"_s);
+
+    emit Client(1).Done(); // late: the channel is closed
+    EXPECT_EQ(Result().SuccessfulCount(), 0);
+}
+
+TEST_F(ChannelBankTest, AWaitLastsUntilTheWatchdogIsDueAndNoLonger) {
+    GivenSites(Numbered(1));
+    const QTime before = clock.Now().time();
+    PressSubmit(); // nobody answers, so each wait passes the time that it was given
+    EXPECT_EQ(Failed().size(), 1);
+    EXPECT_GT(before.secsTo(clock.Now().time()), 44);
+    EXPECT_LE(before.msecsTo(clock.Now().time()), 45'100);
+}
+
+TEST_F(ChannelBankTest, ALateDoneCountsForTheNextSiteOfTheChannel) {
+    GivenSites(Numbered(6));
+    WhenWaiting([&] {
+        clock.Advance(std::chrono::seconds(50)); // all five time out, and channel 1 takes the sixth site
+    });
+    WhenWaiting([&] { emit Client(1).Done(); });
+    PressSubmit();
+    EXPECT_EQ(Result().FailedCount(), 5);
+    EXPECT_EQ(Successful(), QStringList{u"Site 6."_s});
+}
+
+TEST_F(ChannelBankTest, DoneWithoutDataIsJudgedByTheChannelsLastHeader) {
+    GivenSites(Numbered(1));
+    WhenWaiting([&] { emit Client(1).Done(); });
+    PressSubmit();
+    EXPECT_EQ(Successful().size(), 1); // no header yet since the start of the program
+
+    EverySiteAnswers("404 Not Found");
+    PressSubmit();
+    NoSiteAnswers();
+    WhenWaiting([&] { emit Client(1).Done(); });
+    PressSubmit();
+    EXPECT_EQ(Failed().size(), 1);
+    EXPECT_EQ(Outcome(0).status, std::nullopt);
+}
+
+TEST_F(ChannelBankTest, ASiteWhoseNameIsPartOfAFailedOneIsSwallowed) {
+    GivenSites({u"AltaVista"_s, u"Alta"_s});
+    WhenWaiting([&] {
+        Fail(1);
+        Fail(2);
+        EXPECT_TRUE(Channel(2).closed);
+        EXPECT_FALSE(Channel(2).free); // only the watchdog frees it
+    });
+    PressSubmit();
+    EXPECT_EQ(Failed(), QStringList{u"AltaVista"_s});
+    EXPECT_EQ(Client(2).aborts, 1);
+    EXPECT_EQ(Outcome(1).verdict, Verdict::None);
+    EXPECT_EQ(Outcome(1).reason, u"Connection refused"_s);
+}
+
+TEST_F(ChannelBankTest, DisableLosesTheSitesBehindTheLowestEndedChannel) {
+    GivenSites(Numbered(8));
+    WhenWaiting([&] {
+        Run().mnuDisabled_Click(1); // its request under way is finished
+        Answer(1, "200 OK");
+    });
+    WhenWaiting([&] {
+        for (int channel : {2, 3, 4, 5})
+            Answer(channel, "200 OK");
+    });
+    PressSubmit();
+    EXPECT_EQ(Client(1).connects, 1);
+    EXPECT_EQ(Result().SuccessfulCount(), 5);
+    EXPECT_EQ(Form().Label28.Caption(), u"8"_s);
+    EXPECT_EQ(Form().Label29.Caption(), u"5"_s);
+    EXPECT_EQ(Outcome(7).verdict, Verdict::None);
+    EXPECT_EQ(Outcome(7).reason, u"not sent, because the channel that was next is disabled"_s);
+
+    EverySiteAnswers("200 OK");
+    PressSubmit(); // the state doesn't carry over, the mark does
+    EXPECT_EQ(Result().SuccessfulCount(), 8);
+    EXPECT_EQ(Form().channels[0].disableMark.Value(), 1);
+    Run().mnuDisabled_Click(1);
+    EXPECT_TRUE(Channel(1).disabled);
+    EXPECT_EQ(Form().channels[0].disableMark.Value(), 0);
+}
+
+TEST_F(ChannelBankTest, AbortAsksTheClientAndChangesNothingElse) {
+    GivenSites(Numbered(1));
+    Run().mnuAbort_Click(3);
+    EXPECT_EQ(Client(3).errorAborts, 1);
+    WhenWaiting([&] {
+        Run().kan_Click(1);
+        EXPECT_EQ(forms.poppedUp.back(), PopupMenu::Status);
+        Run().mnuAbort_Click(1);
+        EXPECT_FALSE(Channel(1).free);
+        Fail(1); // what the real client raises at the next turn
+    });
+    PressSubmit();
+    EXPECT_EQ(Failed().size(), 1);
+    Run().kan_Click(1);
+    EXPECT_EQ(forms.poppedUp.back(), PopupMenu::Status); // no popup while idle
+    EXPECT_EQ(forms.poppedUp.size(), 2U);
+}
+
+TEST_F(ChannelBankTest, SendsWhatTheSitesRecordSays) {
+    SiteDatabaseBuilder master;
+    master.Site(u"Get"_s).Action(u"http://a.example:81/add"_s);
+    master.Site(u"Post"_s).Method(u"POST"_s).Action(u"http://b.example/add"_s);
+    master.Site(u"Put"_s).Method(u"put"_s).Action(u"http://c.example/add"_s);
+    GivenMaster(master);
+    GivenOpenProject();
+    WhenWaiting([&] {
+        EXPECT_EQ(Client(1).Target(), u"http://a.example:81/add?url=http%3A%2F%2Fwww.page.example%2F"_s);
+        EXPECT_EQ(Client(2).Target(), u"http://b.example/add"_s);
+        EXPECT_EQ(Client(3).Target(), u"http://c.example/add"_s);
+        for (int channel : {1, 2, 3})
+            Answer(channel, "200 OK");
+        EXPECT_EQ(Client(1).sentMethod, u"GET"_s);
+        EXPECT_EQ(Client(2).sentMethod, u"POST"_s);
+        EXPECT_EQ(Client(3).sentMethod, u"GET"_s);
+        EXPECT_TRUE(Client(1).RequestHeaders().startsWith("HOST: a.example:81\r\n"));
+        EXPECT_TRUE(Client(2).RequestHeaders().endsWith(
+            "CONTENT-LENGTH: 36\r\n\r\nurl=http%3A%2F%2Fwww.page.example%2F"));
+        EXPECT_FALSE(Client(3).RequestHeaders().contains("url="));
+    });
+    PressSubmit();
+    EXPECT_EQ(Result().SuccessfulCount(), 3);
+}
+
+TEST_F(ChannelBankTest, ANameThatNoFileCanBearIsSubmittedAndWritesNothing) {
+    GivenSites({u"../outside"_s, u".."_s, u"C:\\x"_s});
+    EverySiteAnswers("302 Found");
+    PressSubmit();
+    EXPECT_EQ(Result().SuccessfulCount(), 3);
+    EXPECT_EQ(Client(1).SaveFile(), QString());
+    EXPECT_EQ(QDir(home.filePath(u"Projects/Project1/report"_s)).entryList(QDir::Files | QDir::Hidden),
+              QStringList{u".htm"_s});
+    EXPECT_FALSE(QFile::exists(home.filePath(u"Projects/Project1/outside.htm"_s)));
+}
+
+} // namespace

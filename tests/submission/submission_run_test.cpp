@@ -1,0 +1,372 @@
+#include "tests/submission/run_fixture.h"
+
+#include <QDir>
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class SubmissionRunTest : public RunFixture {};
+
+TEST_F(SubmissionRunTest, AWholeRunCountsReportsAndUnlocks) {
+    GivenSites(Numbered(7));
+    List1().SetSelected(3, false);
+    EverySiteAnswers("200 OK");
+    PressSubmit();
+
+    EXPECT_EQ(Successful(), (QStringList{u"Site 1."_s, u"Site 2."_s, u"Site 3."_s, u"Site 5."_s, u"Site 6."_s,
+                                         u"Site 7."_s}));
+    EXPECT_EQ(Failed(), QStringList());
+    EXPECT_EQ(Result().NotSelectedCount(), 1);
+    EXPECT_EQ(Form().Label28.Caption(), u"6"_s);
+    EXPECT_EQ(Form().Label29.Caption(), u"6"_s);
+    EXPECT_EQ(Form().Label30.Caption(), u"6"_s);
+    EXPECT_EQ(Form().Label31.Caption(), u"0"_s);
+    EXPECT_EQ(ReadPage(u"Site 1."_s), u"hello body\n"_s);
+    EXPECT_TRUE(ReadPage(u"Site 4."_s).contains(u"<strong>NOTSELECTED</strong>"_s));
+    EXPECT_TRUE(QFile::exists(home.filePath(u"Projects/Project1/report.htm"_s)));
+    EXPECT_FALSE(Run().RunActive());
+    EXPECT_TRUE(Record().txtURL.Enabled() && Record().txtZip.Enabled() && List1().Enabled());
+    EXPECT_TRUE(program->files.mnuFileOpen.Enabled());
+    EXPECT_TRUE(dialogs.boxes.empty());
+    program->statistics.cmdOrder_Click();
+    EXPECT_EQ(program->statistics.Label42.Caption(), u"1"_s);
+    EXPECT_EQ(program->statistics.Label46.Caption(), u"6"_s);
+}
+
+TEST_F(SubmissionRunTest, LocksTheEntriesWhileSitesAreUnderWay) {
+    GivenSites(Numbered(1));
+    WhenWaiting([&] {
+        EXPECT_TRUE(Run().RunActive());
+        EXPECT_FALSE(Record().txtURL.Enabled() || Record().txtLimit.Enabled() || List1().Enabled());
+        EXPECT_TRUE(Record().txtDesc.Enabled());
+        EXPECT_FALSE(program->statistics.Command10.Enabled());
+        EXPECT_FALSE(program->files.mnuFileNew.Enabled() || program->files.mnuFileMRU[0].Enabled());
+        program->siteSelection.Command3_Click();
+        EXPECT_EQ(List1().SelCount(), 1);
+        Answer(1, "200 OK");
+    });
+    PressSubmit();
+    EXPECT_EQ(Successful().size(), 1);
+}
+
+TEST_F(SubmissionRunTest, RefusesAProjectWithAnEmptyFieldAndShowsItsPane) {
+    GivenSites(Numbered(1));
+    ProjectRecord &record = Record();
+    const struct {
+        TextBox &box;
+        QString text;
+        Pane pane;
+    } cases[] = {
+        {record.txtURL, u""_s, Pane::FrameOtherData},
+        {record.txtEmail, u" "_s, Pane::FrameOtherData},
+        {record.txtZip, u""_s, Pane::FrameOtherData},
+        {record.txtPhone, u" "_s, Pane::FrameDescription}, // phone stands among the other data, the pane is told
+        {record.txtTitle, u""_s, Pane::FrameDescription},
+        {record.txtKey[5], u" "_s, Pane::FrameDescription},
+        {record.txtLimit, u""_s, Pane::FrameDescription},
+    };
+    for (const auto &bad : cases) {
+        const QString old = bad.box.Text();
+        bad.box.SetText(bad.text);
+        PressSubmit();
+        ASSERT_EQ(dialogs.boxes.size(), 1U) << bad.box.objectName().toStdString();
+        EXPECT_EQ(dialogs.boxes[0].text, u"You must fill all text fields"_s);
+        EXPECT_EQ(dialogs.boxes[0].title, u"Error!"_s);
+        EXPECT_EQ(dialogs.boxes[0].icon, BoxIcon::Exclamation);
+        EXPECT_EQ(program->frame.ShownPane(), bad.pane) << bad.box.objectName().toStdString();
+        EXPECT_EQ(program->frame.Pointer(), MousePointer::Default);
+        EXPECT_FALSE(Run().RunActive());
+        dialogs.boxes.clear();
+        bad.box.SetText(old);
+    }
+    EXPECT_EQ(Client(1).connects, 0);
+}
+
+TEST_F(SubmissionRunTest, AnEmptyDescriptionIsNoObstacleAndFaxTakesThePhone) {
+    GivenSites(Numbered(1));
+    Record().txtDesc.SetText(QString());
+    Record().txtFax.SetText(u" "_s);
+    Record().txtPhone.SetText(u"555-0100"_s);
+    EverySiteAnswers("200 OK");
+    PressSubmit();
+    EXPECT_EQ(Successful().size(), 1);
+    EXPECT_EQ(Record().txtFax.Text(), u"555-0100"_s);
+}
+
+TEST_F(SubmissionRunTest, CorrectsLimitAndSubject) {
+    GivenSites(Numbered(1));
+    EverySiteAnswers("200 OK");
+    const QList<std::pair<QString, QString>> limits{
+        {u"5000abc"_s, u"1000"_s}, {u"1001"_s, u"1000"_s}, {u"12 s"_s, u"45"_s}, {u"abc"_s, u"45"_s}, {u" 7 "_s, u" 7 "_s}};
+    for (const auto &[typed, used] : limits) {
+        Record().txtLimit.SetText(typed);
+        Record().Combo2.SetText(u"business"_s);
+        PressSubmit();
+        EXPECT_EQ(Record().txtLimit.Text(), used);
+        EXPECT_EQ(Record().Combo2.Text(), u"Miscellaneous"_s);
+    }
+}
+
+TEST_F(SubmissionRunTest, RefusesASelectedDirectoryWithoutACategory) {
+    SiteDatabaseBuilder master;
+    master.Site(u"Tree"_s).Categories({u"All"_s, u"Arts"_s});
+    master.Site(u"Treetop"_s);
+    GivenMaster(master);
+    GivenOpenProject();
+    // The directory itself isn't selected, but its name is part of a selected site's.
+    List1().SetSelected(0, false);
+    PressSubmit();
+    ASSERT_EQ(dialogs.boxes.size(), 1U);
+    EXPECT_EQ(dialogs.boxes[0].text, u"You must select a valid category for Tree"_s);
+    EXPECT_EQ(program->frame.ShownPane(), Pane::fraCat);
+    EXPECT_EQ(program->project.lists.List2.Text(), u"Tree"_s);
+    EXPECT_FALSE(Run().RunActive());
+
+    EverySiteAnswers("200 OK");
+    program->categorySelection.SelectByKeyword(u"art"_s);
+    PressSubmit();
+    EXPECT_EQ(Successful(), QStringList{u"Treetop"_s});
+}
+
+TEST_F(SubmissionRunTest, ARunWithoutSelectedSitesGoesThroughAllSteps) {
+    GivenSites(Numbered(3));
+    List1().SetAllSelected(false);
+    PressSubmit();
+    EXPECT_EQ(Client(1).connects, 0);
+    EXPECT_EQ(Result().NotSelectedCount(), 3);
+    EXPECT_EQ(Form().Label29.Caption(), u"0"_s);
+    EXPECT_TRUE(QFile::exists(Result().reportFile));
+    EXPECT_TRUE(QFile::exists(Result().reportFolder + u".htm"_s)); // the entry behind the list has a page, too
+}
+
+TEST_F(SubmissionRunTest, ADismissedPopupOrAnotherModeStartsNothing) {
+    GivenSites(Numbered(1));
+    forms.onMenu.erase(PopupMenu::Submit);
+    PressSubmit();
+    EXPECT_EQ(Client(1).connects, 0);
+    EXPECT_FALSE(Run().RunActive());
+    EXPECT_FALSE(QFile::exists(Result().reportFile));
+}
+
+TEST_F(SubmissionRunTest, ASecondPressStartsNothingAndIsCounted) {
+    GivenSites(Numbered(1));
+    WhenWaiting([&] {
+        PressSubmit();
+        EXPECT_EQ(Run().urlCounter, 1);
+        EXPECT_TRUE(Run().RunActive());
+        Answer(1, "200 OK");
+    });
+    PressSubmit();
+    EXPECT_EQ(Client(1).connects, 1);
+    EXPECT_EQ(Run().urlCounter, 2);
+    EXPECT_EQ(forms.poppedUp.size(), 1U);
+}
+
+TEST_F(SubmissionRunTest, PauseHoldsDispatchAndWatchdogUntilTheNextPress) {
+    GivenSites(Numbered(6));
+    WhenWaiting([&] { Run().Command1_Click(); }); // all five channels are busy
+    WhenWaiting([&] { Answer(2, "200 OK"); });    // an answer in the pause is taken
+    WhenWaiting([&] {
+        clock.Advance(std::chrono::seconds(300));
+        EXPECT_EQ(Client(2).connects, 1);
+        EXPECT_EQ(Result().FailedCount(), 0);
+        PressSubmit();
+    });
+    WhenWaiting([&] {
+        EXPECT_EQ(Client(1).connects, 2); // released: the others have timed out, and the sixth site goes out
+        EXPECT_EQ(Result().FailedCount(), 4);
+        Answer(1, "200 OK");
+    });
+    PressSubmit();
+    EXPECT_EQ(Result().SuccessfulCount(), 2);
+    EXPECT_EQ(Result().FailedCount(), 4);
+}
+
+TEST_F(SubmissionRunTest, PauseWhileIdleRunsTheNextPressInside) {
+    GivenSites(Numbered(1));
+    EverySiteAnswers("200 OK");
+    WhenWaiting([&] { PressSubmit(); });
+    Run().Command1_Click();
+    EXPECT_EQ(Successful().size(), 1);
+}
+
+TEST_F(SubmissionRunTest, CancelWhileAllAreBusyLeavesSitesWithoutAVerdict) {
+    GivenSites(Numbered(7));
+    WhenWaiting([&] { Run().cmdCancel_Click(); });
+    PressSubmit();
+    for (int channel = 1; channel <= channelCount; ++channel) {
+        EXPECT_EQ(Client(channel).connects, 1);
+        EXPECT_EQ(Client(channel).aborts, 1);
+    }
+    EXPECT_EQ(Form().Label29.Caption(), u"0"_s);
+    EXPECT_EQ(Outcome(0).verdict, Verdict::None);
+    EXPECT_EQ(Outcome(6).reason, u"the run was cancelled"_s);
+    EXPECT_TRUE(ReadPage(u"Site 7."_s).contains(u"<strong>ERROR!</strong>"_s));
+    EXPECT_EQ(Run().urlCounter, 0); // a cancelled run leaves without its closing step
+    program->statistics.cmdOrder_Click();
+    EXPECT_EQ(program->statistics.Label42.Caption(), u"1"_s);
+}
+
+TEST_F(SubmissionRunTest, CancelDuringCollectionEndsTheRunAtItsFirstRound) {
+    GivenSites(Numbered(4));
+    QObject::connect(&program->frmStatus, &StatusForm::ValueChanged, &program->frmStatus, [&](int value) {
+        if (value == 1 && program->frmStatus.Label1.Caption() == "Collecting submission data ..."_L1)
+            program->frmStatus.SSCommand1_Click();
+    });
+    EverySiteAnswers("200 OK");
+    PressSubmit();
+    // The first site was collected and goes out before the flag is looked at; nothing follows it.
+    EXPECT_EQ(Client(1).connects, 1);
+    EXPECT_EQ(Client(2).connects, 0);
+    EXPECT_FALSE(Run().RunActive());
+    EXPECT_TRUE(QFile::exists(Result().reportFile));
+}
+
+TEST_F(SubmissionRunTest, CancelWhileMarksAreSavedStopsThatWalkOnly) {
+    GivenSites(Numbered(3));
+    bool pressed = false;
+    QObject::connect(&program->frmStatus, &StatusForm::ValueChanged, &program->frmStatus, [&] {
+        if (!std::exchange(pressed, true))
+            program->frmStatus.SSCommand1_Click();
+    });
+    EverySiteAnswers("200 OK");
+    PressSubmit();
+    EXPECT_EQ(Successful().size(), 3);
+}
+
+TEST_F(SubmissionRunTest, ARunAcrossMidnightTakesNegativeTimeAndTimesNothingOut) {
+    GivenSites(Numbered(1));
+    clock.SetTime(QTime(23, 59, 50));
+    WhenWaiting([&] {
+        clock.Advance(std::chrono::seconds(60));
+        program->channels.CheckChannelTimeouts();
+        EXPECT_EQ(Result().FailedCount(), 0);
+        Answer(1, "200 OK");
+    });
+    PressSubmit();
+    EXPECT_EQ(Result().elapsedSeconds, 60 - 86400);
+    EXPECT_EQ(Result().Duration(), std::chrono::seconds(60));
+}
+
+TEST_F(SubmissionRunTest, AFailureOfAnEarlierRunSwallowsNone) {
+    GivenSites({u"Search Now"_s, u"Search"_s});
+    EverySiteAnswers("404 Not Found");
+    PressSubmit();
+    EXPECT_EQ(Failed(), QStringList{u"Search Now"_s});
+    List1().SetSelected(0, false);
+    PressSubmit();
+    EXPECT_EQ(Failed(), QStringList{u"Search"_s});
+}
+
+TEST_F(SubmissionRunTest, CountsOnBeyondTheRoomOfTheNameLists) {
+    GivenSites(Numbered(505));
+    EverySiteAnswers("500 Broken");
+    PressSubmit();
+    EXPECT_EQ(Result().FailedCount(), 505);
+    EXPECT_EQ(Result().FailedNames.At(500), u"Site 501."_s);
+    EXPECT_EQ(Result().FailedNames.At(501), QString());
+    EXPECT_EQ(Outcome(504).verdict, Verdict::Failed);
+    QFile report(Result().reportFile);
+    ASSERT_TRUE(report.open(QIODevice::ReadOnly));
+    const QByteArray html = report.readAll();
+    EXPECT_EQ(html.count("size=1><a href="), 501 + 1); // and the row behind the sites that were not selected
+    EXPECT_TRUE(html.contains("Failed Registrations:  505"));
+}
+
+TEST_F(SubmissionRunTest, ANewProjectIsSavedFirstAndACancelledDialogLetsTheRunGoOn) {
+    GivenSites(Numbered(1));
+    program->project.path.Base.clear();
+    EverySiteAnswers("200 OK");
+    dialogs.files = {std::nullopt, std::nullopt}; // the press asks, and so does the collection, which saves
+    PressSubmit();
+    EXPECT_EQ(dialogs.fileDialogs.size(), 2U);
+    EXPECT_FALSE(Run().RunActive());
+    EXPECT_EQ(Result().reportFile, home.filePath(u"Projects/Project1/report.htm"_s));
+}
+
+TEST_F(SubmissionRunTest, ClosingTheProgramEndsTheRunAtOnceWithItsReport) {
+    GivenSites(Numbered(8));
+    Record().Check3.SetValue(1);
+    WhenWaiting([&] { queue.Close(); });
+    PressSubmit();
+    EXPECT_FALSE(Run().RunActive());
+    EXPECT_GE(Client(1).aborts, 1);
+    EXPECT_TRUE(QFile::exists(Result().reportFile));
+    EXPECT_TRUE(documents.opened.empty());
+}
+
+TEST_F(SubmissionRunTest, OpensTheReportOnlyIfAsked) {
+    GivenSites(Numbered(1));
+    EverySiteAnswers("200 OK");
+    PressSubmit();
+    EXPECT_TRUE(documents.opened.empty());
+    Record().Check3.SetValue(1);
+    documents.result = OpenResult::NoApplication;
+    PressSubmit();
+    ASSERT_EQ(documents.opened.size(), 1U);
+    EXPECT_EQ(documents.opened[0].arguments, QStringList{Result().reportFile});
+    ASSERT_EQ(dialogs.boxes.size(), 1U);
+    EXPECT_EQ(dialogs.boxes[0].text, u"There is no application for this type of file!"_s);
+}
+
+class RecordingModes : public SubmissionModes {
+public:
+    explicit RecordingModes(std::function<void()> onSubmit) : submit(std::move(onSubmit)) {}
+    void SubmitMultipleUrls() override { submit(); }
+
+private:
+    std::function<void()> submit;
+};
+
+TEST_F(SubmissionRunTest, AJobDrivesThePressAndGoesOnWhenACheckStopsIt) {
+    GivenSites(Numbered(1));
+    RecordingModes job([&] {
+        Run().multiChosen = false;
+        Run().multiIdle = false;
+        Run().multiActive = true;
+        program->result.reportFolder = home.filePath(u"own/"_s);
+        program->result.reportFile = home.filePath(u"own/report.htm"_s);
+        Record().txtTitle.SetText(QString());
+        PressSubmit(); // stopped by a check, closes all the same
+        EXPECT_TRUE(Run().multiIdle);
+        EXPECT_EQ(Run().urlCounter, 1);
+
+        Run().multiIdle = false;
+        Record().txtTitle.SetText(u"Title"_s);
+        PressSubmit();
+        EXPECT_FALSE(Run().multiActive);
+        EXPECT_TRUE(Run().multiIdle);
+    });
+    Run().SetModes(&job);
+    forms.onMenu[PopupMenu::Submit] = [&] { Run().mnuMultiple_Click(); };
+    EverySiteAnswers("200 OK");
+    PressSubmit();
+    EXPECT_EQ(Run().urlCounter, 2);
+    EXPECT_TRUE(QFile::exists(home.filePath(u"own/report.htm"_s)));
+    EXPECT_EQ(forms.poppedUp.size(), 1U);
+}
+
+TEST_F(SubmissionRunTest, TheCounterIsCalledAtItsFirstAddressUntilAnExchangeHasEnded) {
+    QFile hosts(home.filePath(u"hosts.ini"_s));
+    ASSERT_TRUE(hosts.open(QIODevice::WriteOnly));
+    hosts.write("[Counter]\nFirst=http://127.0.0.1/first\nLater=http://127.0.0.1/later\n");
+    hosts.close();
+    GivenSites(Numbered(1));
+    EverySiteAnswers("200 OK");
+    PressSubmit();
+    EXPECT_EQ(Client(6).Target(), u"http://127.0.0.1/first"_s);
+    emit Client(6).Connected();
+    EXPECT_EQ(Client(6).sentMethod, u"GET"_s);
+    emit Client(6).Error(61);
+    PressSubmit();
+    EXPECT_EQ(Client(6).Target(), u"http://127.0.0.1/first"_s);
+    EXPECT_EQ(Client(6).aborts, 2);
+    emit Client(6).Done();
+    emit Client(6).Closing();
+    PressSubmit();
+    EXPECT_EQ(Client(6).Target(), u"http://127.0.0.1/later"_s);
+}
+
+} // namespace

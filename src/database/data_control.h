@@ -28,8 +28,7 @@ public:
     /// file that no other control has open in SQLite's read-only mode.
     DataControl(DatabaseFiles &databaseFiles, Access accessMode);
     ~DataControl();
-    DataControl(const DataControl &) = delete;
-    DataControl &operator=(const DataControl &) = delete;
+    Q_DISABLE_COPY_MOVE(DataControl)
 
     /// Binds the control to a file; the row set is empty until the next Refresh. An empty name closes the
     /// binding. The path is made absolute.

@@ -9,9 +9,9 @@ namespace lanterra {
 /// Puts the first rows into the new database of this path and closes it. False if that failed.
 using DatabaseFiller = std::function<bool(const QString &path)>;
 
-/// Writes a database of these tables, whole or not at all, replacing what is there. It is empty, or holds what
-/// `fill` wrote into it under another name. False if a CREATE TABLE statement fails, if `fill` returns false, or if
-/// the file could not be written.
+/// Writes a database of these tables, whole or not at all, replacing what is there. It is empty, or holds
+/// what `fill` wrote into it under another name. False if a CREATE TABLE statement fails, if `fill` returns
+/// false, or if the file could not be written.
 bool CreateDatabase(const QString &path, const QStringList &statements, const DatabaseFiller &fill = {});
 
 /// Writes a compacted copy of a closed database under a new name, whole or not at all, replacing what is

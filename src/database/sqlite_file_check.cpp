@@ -69,7 +69,7 @@ QString SqliteFileRefusal(const QString &path) {
     if (!file.open(QIODevice::ReadOnly))
         return u"The file can't be read."_s;
     const QByteArray header = file.read(headerSize);
-    if (const QString refusal = HeaderRefusal(header); !refusal.isEmpty())
+    if (QString refusal = HeaderRefusal(header); !refusal.isEmpty())
         return refusal;
     if (!HasJournal(path) && !HasAllPages(header, file.size()))
         return u"The database file is cut off."_s;

@@ -49,7 +49,7 @@ int TableSchema::IndexOf(const QString &field) const {
 
 QString ReadSchema(SqliteConnection &connection, DatabaseSchema &schema) {
     schema.clear();
-    if (const QString refusal = ActiveObjectRefusal(connection); !refusal.isEmpty())
+    if (QString refusal = ActiveObjectRefusal(connection); !refusal.isEmpty())
         return refusal;
     QSqlQuery *query = connection.Execute(fieldsOfTables);
     if (!query)

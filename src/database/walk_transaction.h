@@ -16,8 +16,7 @@ public:
     /// outlive the walk, but may be closed before its end.
     explicit WalkTransaction(DataControl &control);
     ~WalkTransaction();
-    WalkTransaction(const WalkTransaction &) = delete;
-    WalkTransaction &operator=(const WalkTransaction &) = delete;
+    Q_DISABLE_COPY_MOVE(WalkTransaction)
 
     /// Ends the walk. False if the rows could not be stored; all of them are then as they were before, and
     /// the control tells why in its Failure(). A nested walk reports what has failed so far.

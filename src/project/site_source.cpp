@@ -91,7 +91,7 @@ private:
             return;
         if (!value.isArray() || value.toArray().isEmpty())
             return Find(row, u"\"categories\" is no list of at least one text."_s);
-        for (const QJsonValue &category : value.toArray())
+        for (const auto &category : value.toArray())
             categories.append(ReadValue(row, categoriesKey, category));
     }
 

@@ -178,6 +178,8 @@ TEST_F(DataControlTest, NothingIsBoundWithoutAFileOrATable) {
     EXPECT_FALSE(Bind(control, u"sites"_s));
     EXPECT_EQ(control.Failure(), u"The database has no table \"sites\"."_s);
     EXPECT_TRUE(Bind(control));
+    QFile::remove(Path());
+    EXPECT_FALSE(control.Refresh());
     control.SetDatabaseName(QString());
     EXPECT_EQ(control.DatabaseName(), QString());
     EXPECT_FALSE(control.Refresh());

@@ -65,7 +65,7 @@ TEST_F(MaintenanceTest, RepairKeepsTheRowsOnBothSidesOfTheDamage) {
     GivenNumberedRows(3000);
     control.Close();
     QByteArray damaged = BytesOf(Path());
-    damaged.replace(4096 * 4, 4096, QByteArray(4096, '\x55'));
+    damaged.replace(16384, 4096, QByteArray(4096, '\x55'));
     WriteWholeFile(Path(), damaged);
     ASSERT_FALSE(Bind(control));
     control.Close();

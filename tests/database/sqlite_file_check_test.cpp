@@ -66,7 +66,7 @@ TEST_F(SqliteFileCheckTest, RefusesAWriteAheadLog) {
 
 TEST_F(SqliteFileCheckTest, DamageBehindTheHeaderFailsTheRefreshWhole) {
     QByteArray damaged = sound;
-    damaged.replace(4096 * 3, 4096, QByteArray(4096, '\x55'));
+    damaged.replace(12288, 4096, QByteArray(4096, '\x55'));
     WriteWholeFile(Path(), damaged);
     EXPECT_EQ(SqliteFileRefusal(Path()), QString());
     EXPECT_FALSE(Bind(control));

@@ -1,0 +1,128 @@
+#include "platform/answer_reader.h"
+#include "tests/qt_printing.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using End = AnswerReader::End;
+using Step = AnswerReader::Step;
+
+constexpr qsizetype kilobyte = 1024;
+
+struct Outcome {
+    bool complete = false;
+    QString problem;
+    QByteArray header;
+    QByteArray body;
+};
+
+// Feeds the answer in blocks of this size and ends the connection behind it.
+Outcome ReadAnswer(const QByteArray &answer, qsizetype blockSize, End end) {
+    AnswerReader reader;
+    Outcome outcome;
+    Step step = Step::NeedsMore;
+    const auto isOver = [&step] { return step == Step::Complete || step == Step::Failed; };
+    for (qsizetype at = 0; at < answer.size() && !isOver(); at += blockSize) {
+        const QByteArray block = answer.mid(at, blockSize);
+        QByteArrayView rest(block);
+        do {
+            step = reader.Read(rest);
+            if (step == Step::Header)
+                outcome.header = reader.HeaderText();
+            if (step == Step::Body)
+                outcome.body.append(reader.Piece());
+        } while (!isOver() && step != Step::NeedsMore);
+    }
+    outcome.complete = (isOver() ? step : reader.Finish(end)) == Step::Complete;
+    outcome.problem = reader.Problem();
+    return outcome;
+}
+
+Outcome ReadWhole(const QByteArray &answer, End end = End::Orderly) {
+    return ReadAnswer(answer, answer.size(), end);
+}
+
+// A row of answers.txt in its own words.
+QByteArray Word(const Outcome &outcome) {
+    if (outcome.complete)
+        return outcome.body == "hello body\n" ? "whole" : "another body";
+    if (outcome.problem.isEmpty())
+        return "no reason";
+    return outcome.header.isEmpty() ? "refused" : outcome.body == "hello" ? "part" : "another part";
+}
+
+TEST(AnswerReader, JudgesTheListedAnswersWholeAndByteByByte) {
+    QFile file(u":/tests/answers.txt"_s);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    while (!file.atEnd()) {
+        const QByteArray row = file.readLine().chopped(1);
+        const qsizetype blank = row.indexOf(' ');
+        QByteArray answer = row.mid(blank + 1);
+        answer.replace("\\r", "\r")
+            .replace("\\n", "\n")
+            .replace("\\t", "\t")
+            .replace("\\0", QByteArray(1, '\0'));
+        if (row.startsWith('#'))
+            continue;
+        EXPECT_EQ(Word(ReadWhole(answer)), row.first(blank)) << row.toStdString();
+        EXPECT_EQ(Word(ReadAnswer(answer, 1, End::Orderly)), row.first(blank)) << row.toStdString();
+    }
+}
+
+TEST(AnswerReader, ABodyWithoutALengthIsWholeOnlyAfterAnOrderlyEnd) {
+    const QByteArray answer = "HTTP/1.1 200 OK\r\n\r\nhello body\n";
+    EXPECT_TRUE(ReadWhole(answer, End::Orderly).complete);
+    const Outcome broken = ReadWhole(answer, End::Broken);
+    EXPECT_FALSE(broken.complete);
+    EXPECT_EQ(broken.problem, u"The connection was closed in the middle of the answer"_s);
+}
+
+TEST(AnswerReader, StatusesWithoutABodyEndWithTheirHeader) {
+    for (const char *status : {"204 No Content", "304 Not Modified"}) {
+        const Outcome outcome =
+            ReadWhole(QByteArray("HTTP/1.1 ") + status + "\r\nContent-Length: 9\r\n\r\nhello", End::Broken);
+        EXPECT_TRUE(outcome.complete);
+        EXPECT_EQ(outcome.body, "");
+    }
+}
+
+TEST(AnswerReader, HeaderTextIsTheFinalAnswersOwnAsItCame) {
+    EXPECT_EQ(ReadWhole("HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 302 Found\nLOCATION: x\n y\n\nbody").header,
+              "HTTP/1.1 302 Found\nLOCATION: x\n y\n\n");
+}
+
+TEST(AnswerReader, BoundsHoldAgainstAnswersWithoutEnd) {
+    const QByteArray status = "HTTP/1.1 200 OK\r\n";
+    const QByteArray chunks = status + "Transfer-Encoding: chunked\r\n\r\n";
+    EXPECT_TRUE(ReadWhole(status + "A: " + QByteArray(99 * kilobyte, 'x') + "\r\n\r\n").complete);
+    EXPECT_EQ(ReadWhole(status + "A: " + QByteArray(100 * kilobyte, 'x')).problem,
+              u"A header line of the answer is too long"_s);
+    EXPECT_EQ(ReadWhole(status + ("A: " + QByteArray(kilobyte, 'x') + "\r\n").repeated(300)).problem,
+              u"The headers of the answer are too long"_s);
+    EXPECT_EQ(ReadWhole(QByteArray("HTTP/1.1 103 Early\r\n\r\n").repeated(20 * kilobyte)).problem,
+              u"The answer has too many header lines"_s);
+    EXPECT_EQ(ReadWhole(chunks + "0;" + QByteArray(16 * kilobyte, 'x')).problem,
+              u"A chunk line of the answer is too long"_s);
+    EXPECT_EQ(ReadWhole(chunks + "0\r\n" + QByteArray("T: x\r\n").repeated(11 * kilobyte)).problem,
+              u"The trailers of the answer are too long"_s);
+}
+
+TEST(AnswerReader, ABodyOf64MebibytesIsTheLargest) {
+    const QByteArray block(64 * kilobyte, 'x');
+    AnswerReader reader;
+    QByteArrayView header("HTTP/1.1 200 OK\r\n\r\n");
+    ASSERT_EQ(reader.Read(header), Step::Header);
+    for (int i = 0; i < 1024; ++i) {
+        QByteArrayView rest(block);
+        ASSERT_EQ(reader.Read(rest), Step::Body);
+    }
+    QByteArrayView oneMore("x");
+    EXPECT_EQ(reader.Read(oneMore), Step::Failed);
+}
+
+} // namespace

@@ -1,0 +1,213 @@
+#include "tests/platform/client_fixture.h"
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using SocketHttpClientTest = ClientFixture;
+
+TEST_F(SocketHttpClientTest, SendsExactlyTheRequest) {
+    server.answer = good;
+    client->SetTarget(client->Target() + u"a?q=1\r\n2"_s);
+    headers = "HOST: z\r\nREFERER: " + client->Target().toLatin1() + "\r\n";
+    EXPECT_EQ(Exchange(), done);
+    const QByteArray port = QByteArray::number(server.serverPort());
+    EXPECT_EQ(server.received, "GET /a?q=1%0D%0A2 HTTP/1.1\r\nHOST: z\r\nREFERER: http://127.0.0.1:" + port +
+                                   "/a?q=1%0D%0A2\r\n\r\n");
+    EXPECT_EQ(client->HostName(), u"127.0.0.1:"_s + QString::fromLatin1(port));
+
+    server.received.clear();
+    posts = true;
+    headers = "HOST: z\r\nCONTENT-TYPE: x\r\nCONTENT-LENGTH: 5\r\n\r\na\r\nb ";
+    client->SetTarget(Address(u"http"_s));
+    EXPECT_EQ(Exchange(), done);
+    EXPECT_EQ(server.received, "POST / HTTP/1.1\r\n" + headers);
+}
+
+TEST_F(SocketHttpClientTest, ReachesIPv6Addresses) {
+    RawServer sixth(QHostAddress::LocalHostIPv6);
+    ASSERT_TRUE(sixth.isListening());
+    sixth.answer = good;
+    client->SetTarget(u"http://[::1]:%1"_s.arg(sixth.serverPort()));
+    headers.clear();
+    EXPECT_EQ(Exchange(), done);
+    EXPECT_EQ(sixth.received,
+              "GET / HTTP/1.1\r\nHost: [::1]:" + QByteArray::number(sixth.serverPort()) + "\r\n\r\n");
+}
+
+TEST_F(SocketHttpClientTest, AProxyGetsTheWholeAddressOfAPage) {
+    server.answer = good;
+    client->SetProxyServer(u" 127.0.0.1 "_s);
+    client->SetProxyPort(server.serverPort());
+    client->SetTarget(u"http://site.example:8080/x?q"_s);
+    EXPECT_EQ(Exchange(), done);
+    EXPECT_EQ(server.received, "GET http://site.example:8080/x?q HTTP/1.1\r\nHOST: z\r\n\r\n");
+}
+
+TEST_F(SocketHttpClientTest, TheEndOfAConnectionDecidesAsTheFramingTells) {
+    const struct {
+        QByteArray answer;
+        Then then;
+        QString events;
+        QByteArray page;
+    } rows[] = {
+        {good, Then::Hold, done, "hello body\n"},
+        {good, Then::Reset, done, "hello body\n"},
+        {endless, Then::Close, done, "hello body\n"},
+        {endless, Then::Reset, cutOff, "hello body\n"},
+        {tooShort, Then::Close, cutOff, "hello body\n"},
+        {tooShort, Then::Reset, cutOff, "hello body\n"},
+        {"HTTP/1.1 200 OK\r\n\r\n", Then::Close, done, ""},
+        {"HTTP/1.1 204 No\r\nContent-Length: 9\r\n\r\n", Then::Hold, done, ""},
+        {"HTTP/1.1 302 Found\r\nLocation: /x\r\nContent-Length: 1\r\n\r\nr", Then::Hold, done, "r"},
+        {"", Then::Close, u"Connected Error 54"_s, "old page"},
+        {"", Then::Reset, u"Connected Error 54"_s, "old page"},
+        {"HTTP/1.1 200 OK\r\nContent-", Then::Close, u"Connected Error 54"_s, "old page"},
+        {"220 mail ready\r\n", Then::Hold, u"Connected Error -1"_s, "old page"},
+    };
+    for (const auto &row : rows) {
+        server.answer = row.answer;
+        server.then = row.then;
+        server.connections = 0;
+        EXPECT_EQ(Exchange(), row.events)
+            << row.answer.toStdString() << client->FailureReason().toStdString();
+        EXPECT_EQ(Page(), row.page) << row.answer.toStdString();
+        EXPECT_EQ(server.connections, 1);
+    }
+}
+
+TEST_F(SocketHttpClientTest, AnAnswerThatComesBeforeTheRequestWasReadCounts) {
+    server.answer = good;
+    server.then = Then::Reset;
+    posts = true;
+    headers = "CONTENT-LENGTH: 9000000\r\n\r\n" + QByteArray(9000000, 'x');
+    EXPECT_EQ(Exchange(), done);
+}
+
+TEST_F(SocketHttpClientTest, DataBeginsWithTheFinalHeaderAndTextIsKeptOnRequestOnly) {
+    const QByteArray answer = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n2\r\nh\xe9\r\n0\r\n\r\n";
+    server.answer = "HTTP/1.1 100 Continue\r\n\r\n" + answer + "HTTP/1.1 404 second";
+    EXPECT_EQ(Exchange(), done);
+    EXPECT_EQ(data, answer);
+    EXPECT_EQ(client->ResponseText(), u""_s);
+    client->SetKeepResponseText(true);
+    EXPECT_EQ(Exchange(), done);
+    EXPECT_EQ(client->ResponseText(), u"h\u00e9"_s);
+    EXPECT_EQ(client->BodyBytes(), 2);
+}
+
+TEST_F(SocketHttpClientTest, ALinkInPlaceOfThePageIsReplacedAndNotFollowed) {
+    const QString target = folder.filePath(u"target"_s);
+    server.answer = good;
+    ASSERT_TRUE(QFile::link(target, page));
+    EXPECT_EQ(Exchange(), done);
+    EXPECT_EQ(Page(), "hello body\n");
+    page = target;
+    EXPECT_EQ(Page(), "old page");
+}
+
+TEST_F(SocketHttpClientTest, APageThatCantBeWrittenChangesNoVerdict) {
+    server.answer = good;
+    for (const QString &path : {folder.path(), folder.filePath(u"no/folder"_s), QString()}) {
+        client->SetSaveFile(path);
+        EXPECT_EQ(Exchange(), done);
+        EXPECT_EQ(client->BodyBytes(), 11);
+    }
+}
+
+TEST_F(SocketHttpClientTest, FailuresComeAtALaterTurnWithTheirReason) {
+    const QString target = u"http://127.0.0.1:1/"_s;
+    const struct {
+        QString target, proxy, events, reason;
+    } rows[] = {
+        {target, u""_s, u"Error 61"_s, u"Connection refused"_s},
+        {target, u"127.0.0.1"_s, u"Error 61"_s, u"The proxy can't be used: Connection refused"_s},
+        {target, u"a b"_s, u"Error 1001"_s, u"The proxy can't be used: The host name was not found"_s},
+        {u"news:a"_s, u""_s, u"Error -1"_s, u"The address doesn't begin with http:// or https://"_s},
+    };
+    client->SetProxyPort(1);
+    for (const auto &row : rows) {
+        client->SetTarget(row.target);
+        client->SetProxyServer(row.proxy);
+        Begin();
+        EXPECT_EQ(events, u""_s);
+        EXPECT_EQ(Exchange(), row.events);
+        EXPECT_EQ(client->FailureReason(), row.reason);
+    }
+}
+
+TEST_F(SocketHttpClientTest, AbortDropsWhatIsDueAndTheNextExchangeStartsClean) {
+    server.answer = good;
+    for (const QString &stop : {u"Connected"_s, u"Data"_s, u"Done"_s}) {
+        during = [&](const QString &event) {
+            if (event == stop)
+                client->Abort();
+        };
+        Begin();
+        EXPECT_TRUE(WaitFor([&] { return events.endsWith(stop); }));
+        during = nullptr;
+        EXPECT_EQ(Exchange(), done);
+    }
+    client->Abort();
+    client->AbortWithError();
+    EXPECT_EQ(Exchange(), done);
+}
+
+TEST_F(SocketHttpClientTest, AbortWithErrorRaisesItOnceAtALaterTurn) {
+    Begin();
+    ASSERT_TRUE(WaitFor([this] { return !server.received.isEmpty(); }));
+    client->AbortWithError();
+    EXPECT_EQ(events, u"Connected"_s);
+    queue.Yield();
+    client->AbortWithError();
+    queue.Yield();
+    EXPECT_EQ(events, u"Connected Error 53"_s);
+    EXPECT_EQ(client->FailureReason(), u"The request was aborted"_s);
+    EXPECT_EQ(Page(), "old page");
+}
+
+TEST_F(SocketHttpClientTest, NoEventComesWhileAHandlerOfItsExchangeRuns) {
+    server.answer = good;
+    server.then = Then::Close;
+    during = [this](const QString &) {
+        const QString before = events;
+        for (int i = 0; i < 50; ++i)
+            queue.Yield();
+        EXPECT_EQ(events, before);
+    };
+    EXPECT_EQ(Exchange(), done);
+}
+
+TEST_F(SocketHttpClientTest, AHandlerCanRunAWholeNewExchange) {
+    server.answer = good;
+    during = [this](const QString &event) {
+        if (event != u"Done")
+            return;
+        during = nullptr;
+        EXPECT_EQ(Exchange(), done);
+        events += u" nested"_s;
+    };
+    Begin();
+    EXPECT_TRUE(WaitFor([this] { return events.contains(u"nested"_s); }));
+    queue.Yield();
+    EXPECT_EQ(events, done + u" nested"_s);
+}
+
+TEST_F(SocketHttpClientTest, MayBeDeletedInsideEachOfItsEvents) {
+    server.then = Then::Close;
+    for (const QString &last : {u"Connected"_s, u"Data"_s, u"Done"_s, u"Closing"_s, u"Error 54"_s}) {
+        server.answer = last == u"Error 54" ? QByteArray() : good;
+        Renew();
+        during = [&](const QString &event) {
+            if (event == last)
+                client.reset();
+        };
+        Begin();
+        EXPECT_TRUE(WaitFor([this] { return !client; })) << last.toStdString();
+        queue.Yield();
+        EXPECT_TRUE(events.endsWith(last));
+    }
+}
+
+} // namespace

@@ -1,0 +1,127 @@
+#include "tests/platform/client_fixture.h"
+
+#include <QProcess>
+#include <QSslKey>
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class SocketHttpClientTlsTest : public ClientFixture {
+protected:
+    SocketHttpClientTlsTest() { client->SetTarget(Address(u"https"_s)); }
+
+    void OpenSsl(const QString &arguments) {
+        QProcess program;
+        program.setWorkingDirectory(folder.path());
+        program.start(u"openssl"_s, arguments.split(u' '));
+        ASSERT_TRUE(program.waitForFinished()) << "the tests need the openssl program";
+        ASSERT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
+    }
+
+    QByteArray Read(const QString &name) const {
+        QFile file(folder.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    // The server gets a certificate for this host. The client trusts the authority that signed it, and no
+    // other.
+    void Secure(const QString &host = u"IP:127.0.0.1"_s, const QString &days = u"1"_s) {
+        const QString newKey = u" -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -keyout "_s;
+        OpenSsl(u"req -x509 -subj /CN=authority -out authority"_s + newKey + u"authority.key"_s);
+        OpenSsl(u"req -new -subj /CN=test -out request -addext subjectAltName="_s + host + newKey + u"key"_s);
+        OpenSsl(
+            u"x509 -req -in request -CA authority -CAkey authority.key -CAcreateserial -copy_extensions copy "
+            "-out certificate -days "_s +
+            days);
+        server.tls = QSslConfiguration::defaultConfiguration();
+        server.tls.setLocalCertificate(QSslCertificate(Read(u"certificate"_s)));
+        server.tls.setPrivateKey(QSslKey(Read(u"key"_s), QSsl::Ec));
+        client->SetCertificateAuthorities({QSslCertificate(Read(u"authority"_s))});
+    }
+
+    struct Refusal {
+        QByteArray answer;
+        Then then;
+        QString reason;
+    };
+
+    void ExpectRefusal(const Refusal &refusal) {
+        server.answer = refusal.answer;
+        server.then = refusal.then;
+        EXPECT_TRUE(Exchange().startsWith(u"Error"_s)) << events.toStdString();
+        EXPECT_EQ(client->FailureReason(), refusal.reason);
+        EXPECT_EQ(Page(), "old page");
+    }
+};
+
+TEST_F(SocketHttpClientTlsTest, AClosingAlertMakesAnEndOrderly) {
+    Secure();
+    const struct {
+        QByteArray answer;
+        Then then;
+        QString events;
+    } rows[] = {
+        {good, Then::Hold, done},     {good, Then::Cut, done},       {endless, Then::Close, done},
+        {endless, Then::Cut, cutOff}, {tooShort, Then::Cut, cutOff},
+    };
+    for (const auto &row : rows) {
+        server.answer = row.answer;
+        server.then = row.then;
+        EXPECT_EQ(Exchange(), row.events) << row.answer.toStdString() << int(row.then);
+        EXPECT_EQ(Page(), "hello body\n");
+    }
+    EXPECT_TRUE(server.received.startsWith("GET / HTTP/1.1\r\nHOST: z\r\n\r\n"));
+}
+
+TEST_F(SocketHttpClientTlsTest, ALargeAnswerArrivesWhole) {
+    Secure();
+    server.answer = endless + QByteArray(5000000, 'x');
+    server.then = Then::Close;
+    EXPECT_EQ(Exchange(), done);
+    EXPECT_EQ(client->BodyBytes(), 5000011);
+}
+
+TEST_F(SocketHttpClientTlsTest, CertificatesAreChecked) {
+    Secure(u"IP:127.0.0.1"_s, u"-1"_s);
+    ExpectRefusal({good, Then::Hold, u"The certificate has expired"_s});
+    Secure(u"DNS:other.example"_s);
+    ExpectRefusal({good, Then::Hold, u"The certificate belongs to another host"_s});
+    Secure();
+    client->SetCertificateAuthorities({});
+    ExpectRefusal({good, Then::Hold, u"The certificate is not trusted"_s});
+    EXPECT_EQ(server.received, "");
+}
+
+TEST_F(SocketHttpClientTlsTest, AFailedHandshakeTellsItsReason) {
+    ExpectRefusal({"HTTP/1.1 400 Bad\r\n\r\n", Then::Hold, u"The server doesn't speak TLS on this port"_s});
+    const QByteArray protocolVersionAlert("\x15\x03\x01\0\x02\x02\x46", 7);
+    ExpectRefusal({protocolVersionAlert, Then::Hold, u"The server offers no TLS version that is safe"_s});
+    ExpectRefusal({"", Then::Close, u"The server closed the connection during the TLS handshake"_s});
+}
+
+TEST_F(SocketHttpClientTlsTest, AProxyOpensATunnelToTheServer) {
+    Secure(u"DNS:site.example"_s);
+    server.expectsConnect = true;
+    server.answer = good;
+    client->SetTarget(u"https://site.example/x"_s);
+    client->SetProxyServer(u"127.0.0.1"_s);
+    client->SetProxyPort(server.serverPort());
+    EXPECT_EQ(Exchange(), done) << client->FailureReason().toStdString();
+    EXPECT_EQ(server.received, "CONNECT site.example:443 HTTP/1.1\r\nHost: site.example:443\r\n\r\n"
+                               "GET /x HTTP/1.1\r\nHOST: z\r\n\r\n");
+}
+
+TEST_F(SocketHttpClientTlsTest, ARefusedTunnelFailsAndItsPageIsNotTheSites) {
+    client->SetProxyServer(u"127.0.0.1"_s);
+    client->SetProxyPort(server.serverPort());
+    ExpectRefusal({"HTTP/1.1 407 Who\r\n\r\npage", Then::Hold, u"The proxy refused the connection (407)"_s});
+    ExpectRefusal({"HTTP/1.1 502 Bad\r\n\r\npage", Then::Close, u"The proxy refused the connection (502)"_s});
+    const QString unclear = u"The proxy's answer can't be understood: "_s;
+    ExpectRefusal({"HTTP/1.1 200 OK\r\n\r\npage", Then::Hold, unclear + u"it is too long"_s});
+    ExpectRefusal({"hello\n", Then::Hold, unclear + u"The server doesn't answer in HTTP"_s});
+    ExpectRefusal({"", Then::Close, u"The proxy can't be used: The connection was closed"_s});
+}
+
+} // namespace

@@ -81,7 +81,7 @@ QByteArray ParkPages::ReceivedPage(const ReceivedLog &log, int page) const {
         cards += ReceiptCard(log.Receipts()[static_cast<size_t>(i)]);
     cards += PageLinks(shown, pageCount);
     return Frame(u"Received"_s,
-                 u"%1 submissions since the start, newest first; the last %2 are kept."_s.arg(log.Total())
+                 u"%1 since the start, newest first. The last %2 are kept."_s.arg(log.Total())
                      .arg(ReceivedLog::capacity),
                  cards);
 }

@@ -81,7 +81,7 @@ protected:
 TEST_F(SiteDataTest, HoldsSitesThatTheProgramCanUse) {
     QSet<QString> names;
     int withCategories = 0;
-    for (const QJsonValue &site : sites) {
+    for (const QJsonValueRef &site : sites) {
         const QString name = site["name"_L1].toString();
         EXPECT_TRUE(CanBeFileName(name)) << name.toStdString();
         EXPECT_FALSE(names.contains(name)) << name.toStdString();
@@ -98,7 +98,7 @@ TEST_F(SiteDataTest, HoldsSitesThatTheProgramCanUse) {
 TEST_F(SiteDataTest, EverySiteTakesExactlyTheFieldsOfItsTemplate) {
     const SiteTable table;
     int accepted = 0;
-    for (const QJsonValue &row : sites) {
+    for (const QJsonValueRef &row : sites) {
         const QJsonObject site = row.toObject();
         const std::string name = site["name"_L1].toString().toStdString();
         const PracticeSite *practice = table.FindByPath(QUrl(site["action"_L1].toString()).path().toLatin1());
@@ -142,7 +142,7 @@ TEST_F(SiteDataTest, TheTableOfHabitsNamesWhatThereIs) {
 
 TEST_F(SiteDataTest, RefusesValuesThatAreNotWhatTheyClaim) {
     const auto siteNamed = [this](const QString &name) {
-        for (const QJsonValue &site : sites)
+        for (const QJsonValueRef &site : sites)
             if (site["name"_L1].toString() == name)
                 return site.toObject();
         return QJsonObject();

@@ -13,35 +13,23 @@ protected:
     const QString note = u"Note"_s;
 };
 
-TEST_F(DataControlTest, WalksTheRowsInStoredOrder) {
+TEST_F(DataControlTest, WalksInStoredOrderAndAddsBehindTheLastRow) {
     GivenRows({u"Gamma"_s, u"Alta"_s, u"Beta"_s});
-    EXPECT_EQ(control.RowCount(), 3);
-    EXPECT_EQ(Names(control), QStringList({u"Gamma"_s, u"Alta"_s, u"Beta"_s}));
-    EXPECT_FALSE(control.HasRow());
     EXPECT_TRUE(control.MoveTo(1));
-    EXPECT_EQ(control.Text(nameField), u"Alta"_s);
-    EXPECT_TRUE(control.MoveLast());
-    EXPECT_EQ(control.Text(nameField), u"Beta"_s);
-    EXPECT_FALSE(control.MoveTo(3));
-    EXPECT_FALSE(control.MoveTo(-1));
-    EXPECT_EQ(control.Text(nameField), QString());
-}
-
-TEST_F(DataControlTest, ARowAddedAfterADeletionIsTheLastOne) {
-    GivenRows({u"Alta"_s, u"Beta"_s, u"Gamma"_s});
-    control.MoveTo(1);
     EXPECT_TRUE(control.Delete());
     EXPECT_FALSE(control.HasRow());
     EXPECT_FALSE(control.Delete());
     Add(control, u"Delta"_s);
     EXPECT_EQ(control.Text(nameField), u"Delta"_s);
-    EXPECT_EQ(StoredNames(), QStringList({u"Alta"_s, u"Gamma"_s, u"Delta"_s}));
+    EXPECT_EQ(Names(control), QStringList({u"Gamma"_s, u"Beta"_s, u"Delta"_s}));
+    EXPECT_EQ(StoredNames(), Names(control));
+    EXPECT_FALSE(control.MoveTo(3));
+    EXPECT_EQ(control.Text(nameField), QString());
 }
 
 TEST_F(DataControlTest, ReadsEveryTypeAsTextNumberAndBoolean) {
-    Bind(control);
-    control.AddNew();
-    control.SetText(nameField, u"12 s"_s);
+    GivenRows({u"12 s"_s});
+    control.Edit();
     control.SetBoolean(visits, true);
     control.Update();
     control.Refresh();
@@ -50,39 +38,26 @@ TEST_F(DataControlTest, ReadsEveryTypeAsTextNumberAndBoolean) {
     EXPECT_TRUE(control.Boolean(visits));
     EXPECT_TRUE(control.IsNull(note));
     EXPECT_EQ(control.Text(note), QString());
-    EXPECT_EQ(control.Number(note), 0);
-    EXPECT_EQ(control.Text(u"note"_s), QString());
     control.Edit();
     control.SetText(note, u"9e99"_s);
     control.SetText(nameField, QString());
-    control.SetBoolean(visits, false);
     control.Update();
     control.Refresh();
     EXPECT_EQ(control.Number(note), 2147483647);
     EXPECT_FALSE(control.IsNull(nameField));
-    EXPECT_FALSE(control.Boolean(visits));
 }
 
-TEST_F(DataControlTest, AFieldThatIsBeingChangedReadsAsWhatWasSet) {
+TEST_F(DataControlTest, ARowWithoutUpdateReadsAsSetAndIsDroppedByTheNextMove) {
     GivenRows({u"Alta"_s});
     control.AddNew();
     EXPECT_EQ(control.Text(nameField), QString());
     control.SetText(note, control.Text(note) + u"one"_s);
     control.SetText(note, control.Text(note) + u"two"_s);
     EXPECT_EQ(control.Text(note), u"onetwo"_s);
-}
-
-TEST_F(DataControlTest, ARowWithoutUpdateIsDropped) {
-    GivenRows({u"Alta"_s});
-    control.Edit();
-    control.SetText(nameField, u"Beta"_s);
     control.MoveFirst();
-    EXPECT_EQ(control.Text(nameField), u"Alta"_s);
-    control.AddNew();
-    control.SetText(nameField, u"Gamma"_s);
-    control.Refresh();
-    EXPECT_FALSE(control.Update());
+    EXPECT_EQ(control.Text(note), QString());
     EXPECT_FALSE(control.SetText(nameField, u"Delta"_s));
+    EXPECT_FALSE(control.Update());
     EXPECT_EQ(StoredNames(), QStringList({u"Alta"_s}));
 }
 
@@ -96,8 +71,6 @@ TEST_F(DataControlTest, ATextBeyondTheFieldsSizeFailsInThatFieldAlone) {
     control.Refresh();
     EXPECT_EQ(control.Text(nameField), u"Alta"_s);
     EXPECT_EQ(control.Text(note).size(), 300000);
-    control.Edit();
-    EXPECT_TRUE(control.SetText(nameField, u"8 chars!"_s));
 }
 
 TEST_F(DataControlTest, SeesWhatAnotherControlCommits) {
@@ -122,31 +95,24 @@ TEST_F(DataControlTest, CloseReleasesTheFileWithItsLastControl) {
     GivenRows({u"Alta"_s});
     Bind(second);
     control.Close();
-    EXPECT_EQ(control.RowCount(), 0);
     EXPECT_FALSE(control.Edit());
-    Add(second, u"Beta"_s);
+    EXPECT_TRUE(Add(second, u"Beta"_s));
     second.Close();
     EXPECT_EQ(FilesLeft(), QStringList({u"sites.rts"_s}));
-    QFile::rename(Path(), Path(u"moved"_s));
-    EXPECT_FALSE(control.Refresh());
-    QFile::rename(Path(u"moved"_s), Path());
     EXPECT_TRUE(control.Refresh());
     EXPECT_EQ(control.RowCount(), 2);
 }
 
-TEST_F(DataControlTest, AReadOnlyControlChangesNothingUntilAnotherOneWrites) {
-    GivenRows({u"Alta"_s});
-    control.Close();
+TEST_F(DataControlTest, AReadOnlyControlChangesNothingWhileAnotherOneWrites) {
     DataControl reader(files, DataControl::Access::ReadOnly);
     Bind(reader);
-    EXPECT_FALSE(reader.Edit());
     EXPECT_FALSE(reader.AddNew());
-    EXPECT_FALSE(reader.Delete());
-    EXPECT_EQ(reader.Text(nameField), u"Alta"_s);
     Bind(second);
     EXPECT_TRUE(Add(second, u"Beta"_s));
-    EXPECT_EQ(reader.RowCount(), 2);
+    EXPECT_TRUE(reader.MoveFirst());
+    EXPECT_FALSE(reader.Edit());
     EXPECT_FALSE(reader.Delete());
+    EXPECT_EQ(Names(reader), QStringList({u"Beta"_s}));
 }
 
 TEST_F(DataControlTest, AFileInUseFailsSoonAndIsReadAgainLater) {
@@ -162,12 +128,10 @@ TEST_F(DataControlTest, AFileInUseFailsSoonAndIsReadAgainLater) {
     EXPECT_EQ(control.Failure(), u"The file is in use by another program."_s);
     EXPECT_FALSE(second.Refresh());
     EXPECT_LT(timer.elapsed(), 200);
-    EXPECT_EQ(second.RowCount(), 0);
     EXPECT_EQ(Names(control), QStringList({u"Alta"_s}));
     stranger.Run(u"COMMIT"_s);
-    EXPECT_TRUE(Add(control, u"Beta"_s));
     EXPECT_TRUE(second.Refresh());
-    EXPECT_EQ(Names(second), QStringList({u"Alta"_s, u"Beta"_s}));
+    EXPECT_EQ(Names(second), QStringList({u"Alta"_s}));
 }
 
 TEST_F(DataControlTest, NothingIsBoundWithoutAFileOrATable) {

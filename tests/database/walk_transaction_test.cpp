@@ -29,19 +29,9 @@ TEST_F(WalkTransactionTest, StoresTheRowsOfAllControlsWhenTheOutermostWalkEnds) 
     EXPECT_EQ(StoredNames(), before);
     EXPECT_TRUE(walk.Commit());
     EXPECT_EQ(StoredNames(), QStringList({u"Omega"_s, u"Beta"_s, u"Gamma"_s}));
-    EXPECT_TRUE(Rename(control, u"Sigma"_s));
-    EXPECT_EQ(StoredNames(), QStringList({u"Omega"_s, u"Beta"_s, u"Sigma"_s}));
 }
 
-TEST_F(WalkTransactionTest, CloseStoresWhatWasReached) {
-    WalkTransaction walk(control);
-    Rename(control, u"Omega"_s);
-    control.Close();
-    EXPECT_EQ(StoredNames(), QStringList({u"Omega"_s, u"Beta"_s}));
-    EXPECT_TRUE(walk.Commit());
-}
-
-TEST_F(WalkTransactionTest, GoesOnBehindACloseWhileAnotherControlHoldsTheFile) {
+TEST_F(WalkTransactionTest, CloseStoresWhatWasReachedAndTheWalkGoesOnInOtherControls) {
     Bind(second);
     WalkTransaction walk(control);
     Rename(control, u"Omega"_s);
@@ -66,9 +56,7 @@ TEST_F(WalkTransactionTest, ACommitThatMeetsAReaderLeavesAllRowsAsTheyWere) {
     EXPECT_EQ(Names(second), before);
     reading->finish();
     EXPECT_EQ(StoredNames(), before);
-    WalkTransaction next(control);
     EXPECT_TRUE(Add(control, u"Delta"_s));
-    EXPECT_TRUE(next.Commit());
 }
 
 TEST_F(WalkTransactionTest, ALockedFileFailsTheWholeWalkAtOnce) {
@@ -124,12 +112,6 @@ TEST_F(WalkTransactionTest, AKilledSaveIsRolledBackAtTheNextOpening) {
     EXPECT_EQ(Names(second), before);
     second.Close();
     EXPECT_EQ(FilesLeft(), QStringList({u"crashed.rts"_s, u"sites.rts"_s}));
-}
-
-TEST_F(WalkTransactionTest, OnAClosedControlItDoesNothing) {
-    control.Close();
-    WalkTransaction walk(control);
-    EXPECT_TRUE(walk.Commit());
 }
 
 } // namespace

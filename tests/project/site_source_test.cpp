@@ -67,11 +67,7 @@ TEST_F(SiteSourceTest, TellsWhatIsWrongWithTheWholeFile) {
               QStringList({u"0: \"version\" is no whole number from 1."_s, u"0: \"sites\" is no list."_s}));
     EXPECT_TRUE(
         FindingsOf("{\n\"version\": 1,\n\"sites\": oops}").value(0).startsWith("0: Line 3 is no JSON: "_L1));
-    const SiteSourceReading missing = ReadSiteSource(folder.filePath(u"none.json"_s));
-    ASSERT_EQ(missing.findings.size(), 1);
-    EXPECT_EQ(missing.findings[0].reason, u"The file can't be read."_s);
-    EXPECT_EQ(SiteFinding({u"a.json"_s, 0, u"Why."_s}).Text(), u"a.json: Why."_s);
-    EXPECT_EQ(SiteFinding({u"a.json"_s, 2, u"Why."_s}).Text(), u"a.json: row 2: Why."_s);
+    EXPECT_EQ(ReadSiteSource(u"none"_s).findings.value(0).Text(), u"none: The file can't be read."_s);
 }
 
 } // namespace

@@ -3,8 +3,14 @@
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QTimer>
+#include <algorithm>
 
 namespace lanterra {
+
+namespace {
+constexpr std::chrono::milliseconds longestSleep =
+    std::chrono::hours(24); ///< a timer's range ends at 24 days
+}
 
 void QtEventQueue::Yield() { QCoreApplication::processEvents(); }
 
@@ -16,8 +22,7 @@ void QtEventQueue::Wait(std::chrono::milliseconds atMost) {
     // The timer needs no slot: its event is what ends the sleep.
     QTimer limit;
     limit.setTimerType(Qt::PreciseTimer);
-    if (atMost != withoutEnd)
-        limit.start(atMost);
+    limit.start(std::min(atMost, longestSleep));
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 

@@ -37,6 +37,11 @@ QString Sentence(const QSqlError &error) {
 
 SqliteConnection::SqliteConnection(const QString &path, Mode mode)
     : connectionName(QUuid::createUuid().toString()) {
+    // An address without a path would name a file of the current folder.
+    if (path.isEmpty()) {
+        failure = u"No file is named."_s;
+        return;
+    }
     Open(Address(path, mode));
     if (mode != Mode::Scratch)
         return;

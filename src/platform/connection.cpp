@@ -102,6 +102,11 @@ void Connection::TakeTunnelAnswer() {
 void Connection::TakeError(QAbstractSocket::SocketError error) {
     if (ended)
         return;
+    // The socket gives up connecting after 30 seconds. How long a server is waited for is the caller's matter.
+    if (stage == Stage::Connecting && error == QAbstractSocket::SocketTimeoutError) {
+        QMetaObject::invokeMethod(this, &Connection::Open, Qt::QueuedConnection);
+        return;
+    }
     if (stage == Stage::Standing)
         leftover = socket->readAll();
     End(FailureOf(error));

@@ -14,8 +14,7 @@ struct Failure;
 
 /// The HTTP client of the running program: HTTP/1.1 over sockets of the system, one connection an exchange.
 /// It needs a running event queue. Nothing is ever sent a second time by itself, no redirection is followed,
-/// and the answer's time limit is the caller's matter (Abort); a connection that nobody accepts is given up
-/// by the socket after 30 seconds.
+/// and the time limit is the caller's matter (Abort), also for a connection that nobody accepts.
 class SocketHttpClient final : public HttpClient {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(SocketHttpClient)

@@ -77,6 +77,21 @@ void ProjectFiles::OpenProject(const QString &file) {
     LoadProject();
 }
 
+StoreResult ProjectFiles::CreateProject(const QString &file) {
+    ProjectPath &path = parts.project.path;
+    path.Base = file;
+    ClearForNewProject();
+    path.SplitProjectPath();
+    path.ComputeStatsFilePath();
+    // The lists of another project would be stored into the copy.
+    parts.project.lists.List1.Clear();
+    StoreResult copied = SaveProject(path.MasterFile());
+    if (!copied.stored)
+        return copied;
+    LoadProject();
+    return SaveProject(QString());
+}
+
 void ProjectFiles::mnuFileSave_Click() {
     if (parts.project.path.Base.isEmpty())
         SaveAs();
@@ -125,7 +140,7 @@ StoreResult ProjectFiles::SaveProject(const QString &source) {
     project.database.Unbind();
     StoreResult result;
     if (!source.isEmpty() && !CopyWholeFile(source, project.path.Base) && !IsSameFile(source, project.path.Base))
-        result.failure = u"%1 could not be written"_s.arg(project.path.Base);
+        result.failure = u"The file could not be written."_s;
     const bool bound = project.database.BindProject();
     project.database.BindMaster();
     if (project.lists.List1.ListCount() == 0) {

@@ -46,6 +46,10 @@ public:
     /// Opens another file as the user's choice: forgets the several URLs of the old project, loads the new one.
     void OpenProject(const QString &file);
 
+    /// Makes a new project under this path, empty but for the values of a new one, and loads it; a file that is
+    /// there is replaced. Not stored if the master could not be copied. Yields.
+    StoreResult CreateProject(const QString &file);
+
     /// Loads the file `Base` into controls and lists; nothing without one. Yields.
     void LoadProject();
 

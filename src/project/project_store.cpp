@@ -26,8 +26,7 @@ void WriteSlot(Project &project, int slot, QStringList &refused) {
 void WriteUrlRows(Project &project, QStringList &refused) {
     DataControl &table = project.database.Data2;
     if (table.RowCount() >= 2) {
-        while (table.RowCount() != 1 && table.MoveFirst() && table.MoveNext() && table.Delete()) {
-        }
+        DeleteUrlRows(project);
         table.MoveFirst();
         table.Edit();
     } else {
@@ -76,6 +75,16 @@ void ReadUrlRows(Project &project, EventQueue &queue) {
 }
 
 } // namespace
+
+bool DeleteUrlRows(Project &project) {
+    DataControl &table = project.database.Data2;
+    if (!EnsureRecordSource(table, u"Project"_s))
+        return false;
+    WalkTransaction walk(table);
+    while (table.RowCount() > 1 && table.MoveTo(1) && table.Delete()) {
+    }
+    return walk.Commit() && table.RowCount() <= 1;
+}
 
 StoreResult SaveProjectFields(Project &project) {
     StoreResult result;

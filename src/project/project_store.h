@@ -30,6 +30,10 @@ struct StoreResult {
 /// Cuts the boxes that are cut on saving and writes the record into the file that Data2 is bound to.
 StoreResult SaveProjectFields(Project &project);
 
+/// Deletes the rows of several URLs, which a save of a project that has one URL by now leaves behind. False if one
+/// could not be deleted.
+bool DeleteUrlRows(Project &project);
+
 /// Reads the record from the file that Data2 is bound to. A file without sites gets the box "Error! Invalid
 /// project file. " and one without a record is passed over; the fields then stay. Yields.
 void LoadProjectFields(Project &project, Dialogs &dialogs, EventQueue &queue);

@@ -26,6 +26,7 @@ void RunResult::Begin(int listCount) {
     failedCount = 0;
     dispatched = false;
     firstDispatch = lastVerdict = std::chrono::milliseconds{0};
+    notStored.clear();
     outcomes.assign(static_cast<std::size_t>(listCount), {});
 }
 

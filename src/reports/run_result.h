@@ -65,6 +65,7 @@ public:
     std::vector<int> FailedIndex;     ///< List1 position of each entry of FailedNames
 
     std::vector<SiteOutcome> outcomes; ///< by List1 position
+    QStringList notStored; ///< what could not be written to the disk, a sentence with the reason each
 
     /// The time from the first dispatch of the run to its last verdict so far, by a clock that only grows. 0 before
     /// the first verdict.

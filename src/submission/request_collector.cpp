@@ -17,8 +17,10 @@ bool RequestCollector::CollectSubmissionData() {
     const int rows = table.RowCount();
     status.Show(u"Collecting submission data ..."_s, rows - 1);
     for (int row = 0; row < rows && !status.StatusCancel && !queue.Closing(); ++row) {
-        if (ReturnToRow(table, u"Data"_s, row) && table.Boolean(u"Selected"_s))
-            CollectRow(row, values);
+        // Sites behind the end of List1 have no place in the table of requests.
+        if (row < static_cast<int>(requests.size()) && ReturnToRow(table, u"Data"_s, row) &&
+            table.Boolean(u"Selected"_s))
+            requests[static_cast<std::size_t>(row)] = RequestOfRow(row, values);
         status.Advance(row);
         queue.Yield();
     }
@@ -29,15 +31,14 @@ bool RequestCollector::CollectSubmissionData() {
     return !cancelled;
 }
 
-void RequestCollector::CollectRow(int row, const RequestTemplate &values) {
-    const auto index = static_cast<std::size_t>(row);
-    if (index >= requests.size())
-        return;
-    const DataControl &site = project.database.Data2;
+SiteRequest RequestCollector::RequestOfRow(int row, const RequestTemplate &values) {
+    DataControl &site = project.database.Data2;
+    if (!EnsureRecordSource(site, u"Data"_s) || !site.MoveTo(row))
+        return {};
     const QString name = site.Text(u"Name"_s);
     QString query = site.Text(u"Query"_s);
     data_parsiraj_query(query, name, values);
-    requests[index] = {name, site.Text(u"Action"_s), query, site.Text(u"Method"_s)};
+    return {name, site.Text(u"Action"_s), query, site.Text(u"Method"_s)};
 }
 
 QString RequestCollector::data_parsiraj_query(QString &query, const QString &name, const RequestTemplate &values) {

@@ -21,6 +21,9 @@ public:
     /// user cancelled.
     bool CollectSubmissionData();
 
+    /// The request of the site in this row of table "Data"; empty if there is no such row.
+    SiteRequest RequestOfRow(int row, const RequestTemplate &values);
+
     /// The text of one request: the site's template expanded, changed in place.
     QString data_parsiraj_query(QString &query, const QString &name, const RequestTemplate &values);
 
@@ -36,8 +39,6 @@ public:
     std::vector<SiteRequest> requests;
 
 private:
-    void CollectRow(int row, const RequestTemplate &values);
-
     Project &project;
     ProjectFiles &files;
     StatusForm &status;

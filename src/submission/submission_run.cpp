@@ -1,6 +1,7 @@
 #include "submission/submission_run.h"
 
 #include "reports/site_pages.h"
+#include "submission/entry_corrections.h"
 #include "submission/required_fields.h"
 #include "support/numbers.h"
 
@@ -12,8 +13,7 @@ namespace lanterra {
 
 namespace {
 
-constexpr double longestLimit = 1000;      ///< seconds
-constexpr int firstDescriptionField = 10;  ///< by position in the check of required fields
+constexpr int firstDescriptionField = 10; ///< by position in the check of required fields
 
 } // namespace
 
@@ -99,9 +99,7 @@ void SubmissionRun::BeginRun() {
 }
 
 bool SubmissionRun::PassesChecks() {
-    TextBox &fax = parts.project.record.txtFax;
-    if (IsBlank(fax.Text()))
-        fax.SetText(parts.project.record.txtPhone.Text());
+    TakeFaxFromPhone(parts.project.record);
     if (!FieldsAreFilled())
         return false;
     selectedNames.clear();
@@ -148,7 +146,7 @@ void SubmissionRun::Prepare() {
     parts.result.Begin(parts.project.lists.List1.ListCount());
     PrepareReportPages();
     form.Label28.SetCaption(QString::number(parts.project.lists.List1.SelCount()));
-    CorrectEntries();
+    CorrectEntries(parts.project.record);
     parts.channels.ClearDisplays();
     phase = 1;
     parts.channels.FreeAll();
@@ -177,18 +175,6 @@ void SubmissionRun::PrepareReportPages() {
     }
 }
 
-void SubmissionRun::CorrectEntries() {
-    ProjectRecord &record = parts.project.record;
-    if (LeadingNumber(record.txtLimit.Text()) > longestLimit)
-        record.txtLimit.SetText(u"1000"_s);
-    if (!IsNumeric(record.txtLimit.Text()))
-        record.txtLimit.SetText(u"45"_s);
-    record.txtName.SetText(record.txtName1.Text() + u' ' + record.txtName2.Text());
-    // Compared to the letter: "business" is not one of the subjects that sites know.
-    if (!record.Combo2.Entries().contains(record.Combo2.Text()))
-        record.Combo2.SetText(u"Miscellaneous"_s);
-}
-
 void SubmissionRun::LockEntries(bool locked) {
     parts.project.record.txtURL.SetEnabled(!locked);
     for (TextBox *field : BindRequiredFields(parts.project.record))
@@ -199,7 +185,8 @@ void SubmissionRun::LockEntries(bool locked) {
 }
 
 void SubmissionRun::CollectRequests() {
-    SaveSiteSelection(parts.project, parts.files.Status(), parts.queue);
+    if (!SaveSiteSelection(parts.project, parts.files.Status(), parts.queue))
+        parts.result.notStored << u"The project could not be saved: "_s + parts.project.database.Data2.Failure();
     if (!parts.collector.CollectSubmissionData())
         cancelRequested = true;
     EnsureRecordSource(parts.project.database.Data2, u"Data"_s);
@@ -254,9 +241,10 @@ void SubmissionRun::EndRun() {
     CompleteNotSelected();
     ExplainMissingVerdicts();
     parts.result.elapsedSeconds = RoundHalfEven(parts.clock.Timer() - startTime);
-    parts.report.WriteSubmissionReport();
-    if (parts.frmSettings.CreateStatistic.Checked())
-        parts.statistics.AppendSessionRow(parts.result);
+    if (!parts.report.WriteSubmissionReport())
+        parts.result.notStored << u"The report could not be written: "_s + parts.result.reportFile;
+    if (parts.frmSettings.CreateStatistic.Checked() && !parts.statistics.AppendSessionRow(parts.result))
+        parts.result.notStored << u"The statistics could not be stored: "_s + parts.project.database.Data3.Failure();
     if (parts.project.record.Check3.Checked() && !parts.queue.Closing())
         parts.viewer.OpenDocument(parts.result.reportFile);
     if (upgrade)

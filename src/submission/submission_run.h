@@ -94,7 +94,6 @@ private:
 
     void Prepare();
     void PrepareReportPages();
-    void CorrectEntries();
     void LockEntries(bool locked);
     void CollectRequests();
 

@@ -1,0 +1,12 @@
+#include "cli/commands.h"
+
+namespace lanterra {
+
+const QList<Command> &Commands() {
+    static const QList<Command> commands{
+        NewCommand(),      SetCommand(),     ShowCommand(),   UrlsCommand(),  SitesCommand(), SelectCommand(),
+        CategoryCommand(), PreviewCommand(), SubmitCommand(), StatsCommand(), SitedbCommand()};
+    return commands;
+}
+
+} // namespace lanterra

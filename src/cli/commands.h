@@ -1,0 +1,23 @@
+#pragma once
+
+#include "cli/command.h"
+
+namespace lanterra {
+
+/// All commands in the order in which help lists them.
+const QList<Command> &Commands();
+
+// Each stands in a file of its name.
+Command NewCommand();
+Command SetCommand();
+Command ShowCommand();
+Command UrlsCommand();
+Command SitesCommand();
+Command SelectCommand();
+Command CategoryCommand();
+Command PreviewCommand();
+Command SubmitCommand();
+Command StatsCommand();
+Command SitedbCommand();
+
+} // namespace lanterra

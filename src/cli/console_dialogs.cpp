@@ -1,0 +1,19 @@
+#include "cli/console_dialogs.h"
+
+using namespace Qt::StringLiterals;
+
+namespace lanterra {
+
+BoxAnswer ConsoleDialogs::Show(const MessageBox &box) {
+    hasShownBox = true;
+    console.TellLine(box.title + u": "_s + QString(box.text).replace("\r\n"_L1, " "_L1));
+    return box.buttons == BoxButtons::YesNo ? givenAnswer.value_or(box.defaultAnswer) : box.defaultAnswer;
+}
+
+QString ConsoleDialogs::Ask(const InputBox &) { return {}; }
+
+std::optional<QString> ConsoleDialogs::OpenFile(const FileDialog &) { return {}; }
+
+std::optional<QString> ConsoleDialogs::SaveFile(const FileDialog &) { return {}; }
+
+} // namespace lanterra

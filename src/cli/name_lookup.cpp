@@ -1,0 +1,16 @@
+#include "cli/name_lookup.h"
+
+#include <algorithm>
+
+namespace lanterra {
+
+qsizetype IndexOfName(const QStringList &names, const QString &typed) {
+    if (const qsizetype exact = names.indexOf(typed); exact >= 0)
+        return exact;
+    const auto found = std::find_if(names.begin(), names.end(), [&](const QString &name) {
+        return name.compare(typed, Qt::CaseInsensitive) == 0;
+    });
+    return found == names.end() ? -1 : found - names.begin();
+}
+
+} // namespace lanterra

@@ -1,4 +1,4 @@
-#include "platform/answer_reader.h"
+#include "tests/platform/read_answer.h"
 #include "tests/qt_printing.h"
 
 #include <QFile>
@@ -10,38 +10,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using End = AnswerReader::End;
+using Outcome = AnswerOutcome;
 using Step = AnswerReader::Step;
 
 constexpr qsizetype kilobyte = 1024;
-
-struct Outcome {
-    bool complete = false;
-    QString problem;
-    QByteArray header;
-    QByteArray body;
-};
-
-// Feeds the answer in blocks of this size and ends the connection behind it.
-Outcome ReadAnswer(const QByteArray &answer, qsizetype blockSize, End end) {
-    AnswerReader reader;
-    Outcome outcome;
-    Step step = Step::NeedsMore;
-    const auto isOver = [&step] { return step == Step::Complete || step == Step::Failed; };
-    for (qsizetype at = 0; at < answer.size() && !isOver(); at += blockSize) {
-        const QByteArray block = answer.mid(at, blockSize);
-        QByteArrayView rest(block);
-        do {
-            step = reader.Read(rest);
-            if (step == Step::Header)
-                outcome.header = reader.HeaderText();
-            if (step == Step::Body)
-                outcome.body.append(reader.Piece());
-        } while (!isOver() && step != Step::NeedsMore);
-    }
-    outcome.complete = (isOver() ? step : reader.Finish(end)) == Step::Complete;
-    outcome.problem = reader.Problem();
-    return outcome;
-}
 
 Outcome ReadWhole(const QByteArray &answer, End end = End::Orderly) {
     return ReadAnswer(answer, answer.size(), end);

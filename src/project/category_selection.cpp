@@ -29,12 +29,11 @@ bool ChooseByKeyword(DataControl &row, const QString &keyword) {
 
 } // namespace
 
-QStringList CategoriesOfRow(const DataControl &row) {
-    return row.Text(categories).split(u"\r\n"_s);
-}
+QStringList CategoriesOfRow(const DataControl &row) { return row.Text(categories).split(u"\r\n"_s); }
 
 bool CategorySelection::FindDirectory(const QString &name) {
     DataControl &table = project.database.Data2;
+    LeaveReplacedFile(table);
     EnsureRecordSource(table, categories);
     for (bool here = table.MoveFirst(); here; here = table.MoveNext()) {
         if (table.Text(u"Name"_s) == name)
@@ -51,30 +50,44 @@ void CategorySelection::List2_Click() {
     offers.SetText(project.database.Data2.Text(selected));
 }
 
-bool CategorySelection::List3_Click() {
+void CategorySelection::List3_Click() {
+    if (project.lists.List3.ListIndex() != ListBox::noEntry && !ChooseCategory())
+        TellNotStored();
+}
+
+bool CategorySelection::ChooseCategory() {
     const ListBox &offers = project.lists.List3;
-    return offers.ListCount() > 0 && FindDirectory(project.lists.List2.Text()) &&
+    return offers.ListIndex() != ListBox::noEntry && FindDirectory(project.lists.List2.Text()) &&
            Choose(project.database.Data2, offers.Text());
 }
 
 void CategorySelection::Command13_Click() {
-    SelectByKeyword(project.record.txttrazim.Text());
+    const bool stored = SelectByKeyword(project.record.txttrazim.Text());
+    List2_Click(); // the list of categories shows the new choice
+    if (!stored)
+        TellNotStored();
+}
+
+void CategorySelection::TellNotStored() {
+    dialogs.Show({.text = u"The category could not be stored. "_s,
+                  .title = u"Error"_s,
+                  .icon = BoxIcon::Critical,
+                  .detail = project.database.Data2.Failure()});
 }
 
 bool CategorySelection::SelectByKeyword(const QString &keyword) {
     if (project.lists.List2.ListCount() == 0)
         return true;
     DataControl &table = project.database.Data2;
-    EnsureRecordSource(table, categories);
-    WalkTransaction walk(table);
+    TableWalk directories(table, categories);
+    WalkTransaction transaction(table);
     bool stored = true;
-    const int rows = table.RowCount();
-    for (int row = 0; row < rows && ReturnToRow(table, categories, row) && !queue.Closing(); ++row) {
+    const int rows = directories.RowCount();
+    for (int row = 0; row < rows && directories.GoTo(row) && !queue.Closing(); ++row) {
         stored = ChooseByKeyword(table, keyword) && stored;
         queue.Yield();
     }
-    List2_Click(); // the list of categories shows the new choice
-    return walk.Commit() && stored;
+    return transaction.Commit() && stored;
 }
 
 } // namespace lanterra

@@ -26,10 +26,9 @@ TextBox *EntryHandlers::Next(const TextBox &box) {
                                          &record.txtKey[1], &record.txtKey[2], &record.txtKey[3],
                                          &record.txtKey[4], &record.txtKey[5], &record.txtDesc};
     // The contact boxes are a ring: the last one leads to the first.
-    const std::vector<TextBox *> contact = {
-        &record.txtEmail, &record.txtName1,   &record.txtName2, &record.txtCompany,
-        &record.txtStreet, &record.txtState,  &record.txtCountry, &record.txtCity,
-        &record.txtZip,   &record.txtPhone,   &record.txtFax,   &record.txtEmail};
+    const auto boxes = record.ContactBoxes();
+    std::vector<TextBox *> contact(boxes.begin(), boxes.end());
+    contact.push_back(boxes.front());
     for (const auto &order : {page, contact}) {
         const auto here = std::find(order.begin(), order.end(), &box);
         if (here != order.end() && here + 1 != order.end())
@@ -45,6 +44,7 @@ void EntryHandlers::txtURL_LostFocus() {
 }
 
 void EntryHandlers::txtTitle_LostFocus() {
+    // From behind the first character, so that the start of a long title scrolls into view.
     record.txtTitle.Select(1, record.txtTitle.SelLength());
     WarnIfTooLong(record.txtTitle, u"Title tags should not exceed 255 characters "_s);
 }

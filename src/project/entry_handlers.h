@@ -22,7 +22,7 @@ public:
     /// "HTTP://..." and "ftp://..." get the prefix, too.
     void txtURL_LostFocus();
 
-    /// Warn of a text of more than 255 characters. It stays in the box and is cut when the project is saved.
+    /// Warn of a text, in a box that blocks while events go on, of more than 255 characters. It stays in the box and is cut when the project is saved.
     void txtTitle_LostFocus();
     void txtDesc_LostFocus();
 

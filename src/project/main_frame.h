@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/control.h"
+#include "controls/label.h"
 
 #include <QString>
 
@@ -32,6 +32,8 @@ public:
 
     Pane ShownPane() const { return shownPane; }
     void ShowPane(Pane pane);
+
+    Label Notice; ///< one line that tells what went wrong without stopping anybody; empty for nothing
 
     MousePointer Pointer() const { return pointer; }
     void SetPointer(MousePointer newPointer);

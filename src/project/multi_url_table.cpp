@@ -17,6 +17,13 @@ void MultiUrlTable::SetCell(int slot, int column, const QString &text) {
         cells[static_cast<std::size_t>(slot)][static_cast<std::size_t>(column)] = text;
 }
 
+int MultiUrlTable::LastUsedSlot() const {
+    int last = slotCount - 1;
+    while (last > 0 && Cell(last, urlColumn).isEmpty())
+        --last;
+    return last;
+}
+
 void MultiUrlTable::EraseUrls() {
     for (auto &slot : cells)
         slot[urlColumn].clear();

@@ -1,9 +1,12 @@
 #include "project/project_files.h"
 
+#include "database/maintenance.h"
+#include "database/sqlite_file_check.h"
+#include "database/walk_transaction.h"
 #include "support/file_names.h"
-#include "support/whole_file.h"
 
 #include <QDir>
+#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
@@ -15,7 +18,19 @@ const QString projectFilter = u"Lanterra files (*.rts)|*.rts"_s;
 
 } // namespace
 
-ProjectFiles::ProjectFiles(const Parts &theParts) : parts(theParts) {}
+ProjectFiles::ProjectFiles(const Parts &theParts) : parts(theParts) {
+    connect(&parts.recent, &RecentFile::Changed, this, &ProjectFiles::ShowRecentFiles);
+    ShowRecentFiles({});
+}
+
+void ProjectFiles::ShowRecentFiles(const QStringList &names) {
+    for (std::size_t item = 0; item < mnuFileMRU.size(); ++item) {
+        mnuFileMRU[item].SetCaption(names.value(static_cast<qsizetype>(item)));
+        mnuFileMRU[item].SetVisible(!mnuFileMRU[item].Caption().isEmpty());
+    }
+}
+
+bool ProjectFiles::Accepts(const Control &entry) const { return entry.Enabled() && !busy; }
 
 void ProjectFiles::SetRunActive(bool active) {
     mnuFileNew.SetEnabled(!active);
@@ -26,30 +41,28 @@ void ProjectFiles::SetRunActive(bool active) {
 }
 
 void ProjectFiles::mnuFileNew_Click() {
-    if (!mnuFileNew.Enabled())
+    if (!Accepts(mnuFileNew))
         return;
     ProjectPath &path = parts.project.path;
     const QString oldBase = path.Base;
     path.Base.clear();
     ClearForNewProject();
-    if (SaveAs()) {
-        parts.frame.ShowPane(Pane::FrameDescription);
-        return;
-    }
-    // The old project comes back as it was stored; what was typed since its last save is gone with the fields
-    // that were emptied above.
-    path.Base = oldBase;
+    // After a cancelled dialog the old project comes back as it was stored; what was typed since its last
+    // save is gone with the fields that were emptied above. The new one is loaded so that the lists are those
+    // of its file.
+    if (!SaveAs())
+        path.Base = oldBase;
     LoadProject();
 }
 
 void ProjectFiles::ClearForNewProject() {
     ProjectRecord &record = parts.project.record;
-    // The address, the "Adult web site" mark and the subject are not among the boxes that are emptied: the address
-    // is reset below, the other two carry over from the old project.
-    for (TextBox *box : {&record.txtEmail, &record.txtName1, &record.txtName2, &record.txtCompany,
-                         &record.txtStreet, &record.txtState, &record.txtCountry, &record.txtCity,
-                         &record.txtZip, &record.txtPhone, &record.txtFax, &record.txtTitle, &record.txtDesc})
+    // The address, the "Adult web site" mark and the subject are not among the boxes that are emptied: the
+    // address is reset below, the other two carry over from the old project.
+    for (TextBox *box : record.ContactBoxes())
         box->SetText(QString());
+    record.txtTitle.SetText(QString());
+    record.txtDesc.SetText(QString());
     for (TextBox &box : record.txtKey)
         box.SetText(QString());
     record.txtLimit.SetText(u"45"_s);
@@ -64,7 +77,7 @@ FileDialog ProjectFiles::OpenDialog() const {
 }
 
 void ProjectFiles::mnuFileOpen_Click() {
-    if (!mnuFileOpen.Enabled())
+    if (!Accepts(mnuFileOpen))
         return;
     if (const std::optional<QString> file = parts.dialogs.OpenFile(OpenDialog()))
         OpenProject(*file);
@@ -77,15 +90,19 @@ void ProjectFiles::OpenProject(const QString &file) {
     LoadProject();
 }
 
-StoreResult ProjectFiles::CreateProject(const QString &file) {
+StoreResult ProjectFiles::MakeFromMaster(const QString &file) {
     ProjectPath &path = parts.project.path;
     path.Base = file;
-    ClearForNewProject();
     path.SplitProjectPath();
     path.ComputeStatsFilePath();
     // The lists of another project would be stored into the copy.
     parts.project.lists.List1.Clear();
-    StoreResult copied = SaveProject(path.MasterFile());
+    return SaveProject(path.MasterFile());
+}
+
+StoreResult ProjectFiles::CreateProject(const QString &file) {
+    ClearForNewProject();
+    StoreResult copied = MakeFromMaster(file);
     if (!copied.stored)
         return copied;
     LoadProject();
@@ -100,58 +117,115 @@ void ProjectFiles::mnuFileSave_Click() {
 }
 
 void ProjectFiles::mnuFileSaveAs_Click() {
-    if (mnuFileSaveAs.Enabled())
+    if (Accepts(mnuFileSaveAs))
         SaveAs();
 }
 
 void ProjectFiles::mnuFileMRU_Click(int item) {
-    const QString file = parts.recent.File(item);
-    if (file.isEmpty() || !mnuFileMRU.at(static_cast<std::size_t>(item - 1)).Enabled())
+    const Label &entry = mnuFileMRU.at(static_cast<std::size_t>(item - 1));
+    const QString file = entry.Caption();
+    if (file.isEmpty() || !Accepts(entry))
         return;
-    // A file that is gone becomes the open project's path all the same; nothing creates it.
+    // A file that is gone becomes the open project's path all the same; nothing creates it. The several-URL
+    // mode stays as it was if the file holds no record.
     parts.project.path.Base = file;
     if (FileExists(file))
         LoadProject();
 }
 
-// False if the user cancelled the dialog.
+// The project's own file, or the master where that path leads to no database, or to other sites by now: Save As is
+// the way out of both. A file that can't be read at the moment stays the source, as its statistics go with it.
+QString ProjectFiles::SourceOfCopy() {
+    Project &project = parts.project;
+    const QString refusal = SqliteFileRefusal(project.path.Base);
+    if (project.path.Base.isEmpty() || !(refusal.isEmpty() || refusal == UnreadableRefusal()))
+        return project.path.MasterFile();
+    const bool holdsOthers = project.database.BindProject() && !HoldsListedSites(project);
+    return holdsOthers ? project.path.MasterFile() : project.path.Base;
+}
+
+// False, with the path as it was, if the user cancelled the dialog or nothing could be stored.
 bool ProjectFiles::SaveAs() {
     ProjectPath &path = parts.project.path;
-    const QString source = path.Base.isEmpty() ? path.MasterFile() : path.Base;
+    const QString source = SourceOfCopy();
     path.CreateProjectsFolder();
-    const QString proposed = path.Base.isEmpty() ? QString() : GetFileName(path.Base, QDir::separator(), false);
+    const QString proposed =
+        path.Base.isEmpty() ? QString() : GetFileName(path.Base, QDir::separator(), false);
     const std::optional<QString> chosen =
         parts.dialogs.SaveFile({projectFilter, path.ProjectsFolder(), proposed, QString()});
     if (!chosen)
         return false;
+    const ProjectPath oldPath = path;
     path.Base = *chosen;
     path.ComputeStatsFilePath();
     path.SplitProjectPath();
-    SaveProject(source);
-    if (FileExists(path.Base))
-        parts.recent.Add(path.Base);
+    if (!SaveProject(source).stored) {
+        path = oldPath;
+        parts.project.database.BindProject();
+        return false;
+    }
+    parts.recent.Add(path.Base);
     parts.frame.SetProjectName(path.ProjectName);
     parts.frame.ShowPane(Pane::FrameDescription);
     return true;
 }
 
 StoreResult ProjectFiles::SaveProject(const QString &source) {
-    Project &project = parts.project;
-    project.database.Unbind();
     StoreResult result;
-    if (!source.isEmpty() && !CopyWholeFile(source, project.path.Base) && !IsSameFile(source, project.path.Base))
-        result.failure = u"The file could not be written."_s;
+    {
+        const QScopedValueRollback<bool> saving(busy, true);
+        result = Store(source);
+    }
+    parts.frame.Notice.SetCaption(result.stored ? QString()
+                                                : u"The project could not be saved: "_s + result.failure);
+    return result;
+}
+
+StoreResult ProjectFiles::Store(const QString &source) {
+    Project &project = parts.project;
+    const QString &base = project.path.Base;
+    project.database.Unbind();
+    const bool inPlace = source.isEmpty() || IsSameFile(source, base);
+    StoreResult result = inPlace ? StoreResult{true, {}, {}} : StoreCopy(source, base);
     const bool bound = project.database.BindProject();
     project.database.BindMaster();
-    if (project.lists.List1.ListCount() == 0) {
-        result.stored = bound && result.failure.isEmpty();
+    if (!result.stored || !inPlace)
         return result;
-    }
-    if (result.failure.isEmpty())
-        result = SaveProjectFields(project);
-    if (!SaveSiteSelection(project, parts.status, parts.queue) && result.stored) {
+    if (!bound)
+        return {false, {}, project.database.Data2.Failure()};
+    if (!HoldsListedSites(project))
+        return {false, {}, u"Another program has put other sites into the file."_s};
+    return StoreRecordAndSelection();
+}
+
+// The copy takes its name once it holds everything, so that the file is the old one or the new one.
+StoreResult ProjectFiles::StoreCopy(const QString &source, const QString &target) {
+    StoreResult result;
+    result.failure = CopyDatabase(source, target, [&](const QString &copy) {
+        DataControl &table = parts.project.database.Data2;
+        table.SetDatabaseName(copy);
+        table.SetRecordSource(u"Data"_s);
+        if (!table.Refresh())
+            return table.Failure();
+        result = StoreRecordAndSelection();
+        parts.project.database.Unbind();
+        return result.failure;
+    });
+    result.stored = result.failure.isEmpty();
+    return result;
+}
+
+StoreResult ProjectFiles::StoreRecordAndSelection() {
+    if (parts.project.lists.List1.ListCount() == 0)
+        return {true, {}, {}};
+    DataControl &table = parts.project.database.Data2;
+    WalkTransaction transaction(table);
+    StoreResult result = SaveProjectFields(parts.project);
+    const bool marksStored =
+        !HoldsListedSites(parts.project) || SaveSiteSelection(parts.project, parts.status, parts.queue);
+    if (!transaction.Commit() || !marksStored) {
         result.stored = false;
-        result.failure = project.database.Data2.Failure();
+        result.failure = table.Failure();
     }
     return result;
 }
@@ -159,8 +233,9 @@ StoreResult ProjectFiles::SaveProject(const QString &source) {
 void ProjectFiles::LoadProject() {
     Project &project = parts.project;
     ProjectRecord &record = project.record;
-    if (project.path.Base.isEmpty())
+    if (project.path.Base.isEmpty() || busy)
         return;
+    const QScopedValueRollback<bool> loading(busy, true);
     record.LoadingProject = true;
     record.multiUrlTable.EraseUrls();
     project.database.Unbind();
@@ -179,17 +254,14 @@ void ProjectFiles::LoadProject() {
     parts.frame.SetPointer(MousePointer::Default);
 }
 
-// An address of ten characters or fewer ("http://a.b") is not counted, as nowhere in the lists of addresses.
+// Every slot with an address counts, however short it is: what is left out here is lost at the next save.
 void ProjectFiles::ShowLoadedUrls() {
     ProjectRecord &record = parts.project.record;
     record.HScroll1.SetValue(0);
     record.chkMultiSameDesc.SetEnabled(record.MultiUrlMode());
     if (record.MultiUrlMode()) {
         record.ShowSlot(0);
-        int urls = 0;
-        for (int slot = 0; slot < MultiUrlTable::slotCount; ++slot)
-            urls += record.multiUrlTable.Cell(slot, MultiUrlTable::urlColumn).size() > 10 ? 1 : 0;
-        record.MultiUrlUpper = urls - 1;
+        record.MultiUrlUpper = record.multiUrlTable.LastUsedSlot();
     }
     record.HScroll1.SetMaximum(record.MultiUrlUpper);
 }

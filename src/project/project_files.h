@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/control.h"
+#include "controls/label.h"
 #include "ports/dialogs.h"
 #include "ports/event_queue.h"
 #include "project/main_frame.h"
@@ -35,7 +35,8 @@ public:
     /// What runs when a project is older than the master; none, and such a project is opened as it is.
     void SetImport(SiteDatabaseImport *siteDatabaseImport) { import = siteDatabaseImport; }
 
-    // All of these yield.
+    // All of these yield. While a project is being loaded or saved they do nothing, except Save, which the
+    // run needs. A save that fails is told by the frame's notice alone.
     void mnuFileNew_Click();
     void mnuFileOpen_Click();
     void mnuFileSave_Click();
@@ -43,41 +44,51 @@ public:
     /// `item` is 1 to 5.
     void mnuFileMRU_Click(int item);
 
-    /// Opens another file as the user's choice: forgets the several URLs of the old project, loads the new one.
+    /// Opens another file as the user's choice: forgets the several URLs of the old project, loads the new
+    /// one.
     void OpenProject(const QString &file);
 
-    /// Makes a new project under this path, empty but for the values of a new one, and loads it; a file that is
-    /// there is replaced. Not stored if the master could not be copied. Yields.
+    /// Makes a file under this path out of the master, or replaces it, and binds it. Its lists are empty
+    /// until the next LoadProject. Not stored if the master could not be copied.
+    StoreResult MakeFromMaster(const QString &file);
+
+    /// Makes a new project under this path, empty but for the values of a new one, and loads it. Not stored
+    /// if the master could not be copied. Yields.
     StoreResult CreateProject(const QString &file);
 
     /// Loads the file `Base` into controls and lists; nothing without one. Yields.
     void LoadProject();
 
-    /// Copies the file `source` to Base, if one is given, binds the data objects, and stores the fields and the
-    /// selection if the lists hold any site. A file newly made from the master thus keeps the master's values.
-    /// Yields.
+    /// Copies the file `source` to Base, if one is given, binds the data objects, and stores the fields and
+    /// the selection, both in one step, if the lists hold any site. A file newly made from the master thus
+    /// keeps the master's values. What went wrong also stands in the frame's notice. Yields.
     StoreResult SaveProject(const QString &source);
 
     /// Stores the window's settings and offers to save a project that has no file yet.
     void AskSaveProject();
 
-    /// The path that `OpenFile` starts in, with the dialog's other values. Creates the folder for projects.
+    /// What the dialogs for an existing project start with. Creates the folder for projects.
     FileDialog OpenDialog() const;
-
-    StatusForm &Status() { return parts.status; }
 
     /// The menu entries, disabled while a run is under way. Save stays.
     Control mnuFileNew, mnuFileOpen, mnuFileSaveAs;
-    std::array<Control, RecentFile::limit> mnuFileMRU;
+    std::array<Label, RecentFile::limit> mnuFileMRU; ///< the recent files; those without a name are invisible
     void SetRunActive(bool active);
 
 private:
+    bool Accepts(const Control &entry) const;
+    void ShowRecentFiles(const QStringList &names);
     bool SaveAs();
+    QString SourceOfCopy();
+    StoreResult Store(const QString &source);
+    StoreResult StoreCopy(const QString &source, const QString &target);
+    StoreResult StoreRecordAndSelection();
     void ClearForNewProject();
     void ShowLoadedUrls();
 
     Parts parts;
     SiteDatabaseImport *import = nullptr;
+    bool busy = false; ///< a project is being loaded or saved
 };
 
 } // namespace lanterra

@@ -3,6 +3,7 @@
 #include "support/file_names.h"
 
 #include <QDir>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -52,11 +53,13 @@ void ProjectPath::SplitProjectPath() {
         ProjectName = typedName.isEmpty() ? Base.mid(nameStart) : typedName;
 
     const QString cleaned = ProjectFolder + ProjectName + ending;
-    if (!FileExists(Base) && !FileExists(cleaned))
+    const bool keepsName = FileExists(Base) && Base.endsWith(ending, Qt::CaseInsensitive);
+    if (!keepsName && !FileExists(cleaned))
         Base = cleaned;
 }
 
 void ProjectPath::ComputeStatsFilePath() {
+    // The first ".rts" of the whole path counts, so one in the name of a folder is the one that changes.
     const qsizetype dot = Base.indexOf(ending, 0, Qt::CaseInsensitive);
     if (dot < 0)
         return;

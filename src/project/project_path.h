@@ -20,7 +20,7 @@ public:
     QString MasterFile() const;
 
     /// Derives folder and name from Base, and gives Base the cleaned name with the ending ".rts". A relative Base
-    /// becomes absolute. A file that exists keeps its name, and no Base becomes the name of a file that exists,
+    /// becomes absolute. A project file that exists keeps its name, and no Base becomes the name of a file that exists,
     /// so neither a project is lost sight of nor another one overwritten. An empty Base stays empty and stands
     /// for "Project1" in the folder for projects.
     void SplitProjectPath();

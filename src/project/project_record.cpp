@@ -1,5 +1,7 @@
 #include "project/project_record.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
@@ -7,25 +9,35 @@ namespace lanterra {
 ProjectRecord::ProjectRecord()
     : Combo2({u"Miscellaneous"_s, u"Business"_s, u"Computers"_s, u"Education"_s, u"Entertainment"_s,
               u"Government"_s, u"Personal"_s}) {
+    ListFields();
+    NameControls();
+    Combo2.SetText(u"Business"_s);
+    FollowChanges();
+}
+
+void ProjectRecord::ListFields() {
     textFields = {
-        {u"txtURL"_s, &txtURL, false},        {u"txtEmail"_s, &txtEmail, true},
+        {u"txtURL"_s, &txtURL, false, MultiUrlTable::urlColumn},        {u"txtEmail"_s, &txtEmail, true},
         {u"txtName1"_s, &txtName1, true},     {u"txtName2"_s, &txtName2, true},
         {u"txtCompany"_s, &txtCompany, true}, {u"txtStreet"_s, &txtStreet, true},
         {u"txtState"_s, &txtState, true},     {u"txtCountry"_s, &txtCountry, true},
         {u"txtCity"_s, &txtCity, true},       {u"txtZip"_s, &txtZip, true},
         {u"txtPhone"_s, &txtPhone, true},     {u"txtFax"_s, &txtFax, true},
-        {u"txtTitle"_s, &txtTitle, true},
+        {u"txtTitle"_s, &txtTitle, true, MultiUrlTable::titleColumn},
     };
     // The address and the keywords are stored as they stand: one that is too long fails alone and is not cut.
+    int column = MultiUrlTable::firstKeyColumn;
     for (std::size_t i = 0; i < txtKey.size(); ++i)
-        textFields.push_back({u"txtKey%1"_s.arg(i + 1), &txtKey[i], false});
+        textFields.push_back({u"txtKey%1"_s.arg(i + 1), &txtKey[i], false, column++});
     textFields.push_back({u"txtLimit"_s, &txtLimit, true});
-    textFields.push_back({u"txtDesc"_s, &txtDesc, true});
+    textFields.push_back({u"txtDesc"_s, &txtDesc, true, MultiUrlTable::descColumn});
     textFields.push_back({u"Combo2"_s, &Combo2, true});
     textFields.push_back({u"txttrazim"_s, &txttrazim, true});
     checkFields = {
         {u"chkMultiSameDesc"_s, &chkMultiSameDesc}, {u"Check1"_s, &Check1}, {u"Check3"_s, &Check3}};
+}
 
+void ProjectRecord::NameControls() {
     for (const TextField &field : textFields)
         field.box->setObjectName(field.name);
     for (const CheckField &field : checkFields)
@@ -33,8 +45,6 @@ ProjectRecord::ProjectRecord()
     txtName.setObjectName(u"txtName"_s);
     HScroll1.setObjectName(u"HScroll1"_s);
     SSCommand7.setObjectName(u"SSCommand7"_s);
-    Combo2.SetText(u"Business"_s);
-    FollowChanges();
 }
 
 // Keeps the table current while a person types. During a load the address stays out of it, but the other texts go
@@ -45,29 +55,26 @@ void ProjectRecord::FollowChanges() {
             multiUrlTable.SetCell(HScroll1.Value(), MultiUrlTable::urlColumn, text);
     });
     for (int column = MultiUrlTable::titleColumn; column < MultiUrlTable::columnCount; ++column) {
-        connect(&BoxOfColumn(column), &TextBox::TextChanged, this, [this, column](const QString &text) {
+        connect(FieldOfColumn(column).box, &TextBox::TextChanged, this, [this, column](const QString &text) {
             const bool ownTexts = !chkMultiSameDesc.Checked() && !LoadingProject;
             multiUrlTable.SetCell(ownTexts ? HScroll1.Value() : 0, column, text);
         });
     }
 }
 
-TextBox &ProjectRecord::BoxOfColumn(int column) {
-    switch (column) {
-    case MultiUrlTable::urlColumn:
-        return txtURL;
-    case MultiUrlTable::titleColumn:
-        return txtTitle;
-    case MultiUrlTable::descColumn:
-        return txtDesc;
-    default:
-        return txtKey.at(static_cast<std::size_t>(column - MultiUrlTable::firstKeyColumn));
-    }
+const ProjectRecord::TextField &ProjectRecord::FieldOfColumn(int column) const {
+    return *std::find_if(textFields.begin(), textFields.end(),
+                         [column](const TextField &field) { return field.column == column; });
+}
+
+std::array<TextBox *, 11> ProjectRecord::ContactBoxes() {
+    return {&txtEmail,   &txtName1, &txtName2, &txtCompany, &txtStreet, &txtState,
+            &txtCountry, &txtCity,  &txtZip,   &txtPhone,   &txtFax};
 }
 
 void ProjectRecord::ShowSlot(int slot) {
     for (int column = 0; column < MultiUrlTable::columnCount; ++column)
-        BoxOfColumn(column).SetText(multiUrlTable.Cell(slot, column));
+        FieldOfColumn(column).box->SetText(multiUrlTable.Cell(slot, column));
 }
 
 void ProjectRecord::ResetUrls() {

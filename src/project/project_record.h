@@ -21,10 +21,13 @@ public:
     /// Stored texts hold at most this many UTF-16 units.
     static constexpr qsizetype fieldSize = 255;
 
+    static constexpr int noColumn = -1;
+
     struct TextField {
         QString name;   ///< of the control and of the stored field
         TextBox *box;
         bool cutOnSave; ///< the box itself is cut to fieldSize before it is stored
+        int column = noColumn; ///< where MultiUrlTable holds it for several URLs
     };
     struct CheckField {
         QString name;
@@ -37,8 +40,11 @@ public:
     const std::vector<TextField> &TextFields() const { return textFields; }
     const std::vector<CheckField> &CheckFields() const { return checkFields; }
 
-    /// The box behind a column of MultiUrlTable.
-    TextBox &BoxOfColumn(int column);
+    /// The field behind a column of MultiUrlTable, 0 to 8.
+    const TextField &FieldOfColumn(int column) const;
+
+    /// The eleven boxes of the owner's contact data, in the order of the form.
+    std::array<TextBox *, 11> ContactBoxes();
 
     /// Copies a slot of the table into the nine boxes.
     void ShowSlot(int slot);
@@ -67,6 +73,8 @@ public:
     bool LoadingProject = false; ///< the boxes change because a project is being loaded
 
 private:
+    void ListFields();
+    void NameControls();
     void FollowChanges();
 
     std::vector<TextField> textFields;

@@ -14,32 +14,39 @@ void SetTextField(DataControl &row, const QString &name, const QString &text, QS
         refused.append(name);
 }
 
-void WriteSlot(Project &project, int slot, QStringList &refused) {
+void CutBoxes(ProjectRecord &record) {
+    for (const ProjectRecord::TextField &field : record.TextFields()) {
+        if (field.cutOnSave)
+            field.box->SetText(CutToFieldSize(field.box->Text()));
+    }
+}
+
+// The texts of the slots that aren't on show are cut as their boxes would be.
+bool WriteSlot(Project &project, int slot, QStringList &refused) {
     DataControl &row = project.database.Data2;
     for (int column = 0; column < MultiUrlTable::columnCount; ++column) {
-        const QString field = project.record.BoxOfColumn(column).objectName();
-        SetTextField(row, field, project.record.multiUrlTable.Cell(slot, column), refused);
+        const ProjectRecord::TextField &field = project.record.FieldOfColumn(column);
+        const QString text = project.record.multiUrlTable.Cell(slot, column);
+        SetTextField(row, field.name, field.cutOnSave ? CutToFieldSize(text) : text, refused);
     }
-    row.Update();
+    return row.Update();
 }
 
-void WriteUrlRows(Project &project, QStringList &refused) {
+bool WriteUrlRows(Project &project, QStringList &refused) {
     DataControl &table = project.database.Data2;
-    if (table.RowCount() >= 2) {
-        DeleteUrlRows(project);
-        table.MoveFirst();
-        table.Edit();
-    } else {
-        table.AddNew();
-    }
-    WriteSlot(project, 0, refused);
-    for (int slot = 0; slot <= project.record.MultiUrlUpper; ++slot) {
-        table.AddNew();
-        WriteSlot(project, slot, refused);
-    }
+    bool stored = true;
+    if (table.RowCount() >= 2)
+        stored = DeleteUrlRows(project) && table.MoveFirst() && table.Edit();
+    else
+        stored = table.AddNew();
+    stored = WriteSlot(project, 0, refused) && stored;
+    for (int slot = 0; slot <= project.record.MultiUrlUpper; ++slot)
+        stored = table.AddNew() && WriteSlot(project, slot, refused) && stored;
+    return stored;
 }
 
-void WriteRecordRow(Project &project, QStringList &refused) {
+// In several-URL mode, too, the record's row holds what stands in the boxes: the slot on show.
+bool WriteRecordRow(Project &project, QStringList &refused) {
     DataControl &row = project.database.Data2;
     if (row.MoveFirst())
         row.Edit();
@@ -49,7 +56,7 @@ void WriteRecordRow(Project &project, QStringList &refused) {
         SetTextField(row, field.name, field.box->Text(), refused);
     for (const ProjectRecord::CheckField &field : project.record.CheckFields())
         row.SetNumber(field.name, field.box->Value());
-    row.Update();
+    return row.Update();
 }
 
 void ReadRecordRow(Project &project) {
@@ -64,11 +71,12 @@ void ReadRecordRow(Project &project) {
 
 void ReadUrlRows(Project &project, EventQueue &queue) {
     DataControl &table = project.database.Data2;
-    const int rows = table.RowCount();
-    for (int row = 1; row < rows && ReturnToRow(table, u"Project"_s, row); ++row) {
+    TableWalk urlRows(table, u"Project"_s);
+    const int rows = urlRows.RowCount();
+    for (int row = 1; row < rows && urlRows.GoTo(row); ++row) {
         for (int column = 0; column < MultiUrlTable::columnCount; ++column) {
-            const QString field = project.record.BoxOfColumn(column).objectName();
-            project.record.multiUrlTable.SetCell(row - 1, column, table.Text(field));
+            const QString text = table.Text(project.record.FieldOfColumn(column).name);
+            project.record.multiUrlTable.SetCell(row - 1, column, text);
         }
         queue.Yield();
     }
@@ -94,22 +102,23 @@ StoreResult SaveProjectFields(Project &project) {
         return result;
     }
     WalkTransaction walk(table);
+    CutBoxes(project.record);
+    bool stored = true;
     if (project.record.MultiUrlMode())
-        WriteUrlRows(project, result.refused);
-    for (const ProjectRecord::TextField &field : project.record.TextFields()) {
-        if (field.cutOnSave)
-            field.box->SetText(CutToFieldSize(field.box->Text()));
-    }
-    WriteRecordRow(project, result.refused);
-    result.stored = walk.Commit();
+        stored = WriteUrlRows(project, result.refused);
+    stored = WriteRecordRow(project, result.refused) && stored;
+    result.stored = walk.Commit() && stored;
     result.failure = result.stored ? QString() : table.Failure();
     return result;
 }
 
 void LoadProjectFields(Project &project, Dialogs &dialogs, EventQueue &queue) {
     DataControl &table = project.database.Data2;
-    if (!EnsureRecordSource(table, u"Data"_s) || table.RowCount() == 0) {
-        dialogs.Show({u"Error! Invalid project file. "_s, u"Error"_s, BoxIcon::Critical});
+    if (!table.IsOpen() || !EnsureRecordSource(table, u"Data"_s) || table.RowCount() == 0) {
+        dialogs.Show({.text = u"Error! Invalid project file. "_s,
+                      .title = u"Error"_s,
+                      .icon = BoxIcon::Critical,
+                      .detail = table.Failure()});
         return;
     }
     if (!EnsureRecordSource(table, u"Project"_s) || !table.MoveFirst())
@@ -122,23 +131,34 @@ void LoadProjectFields(Project &project, Dialogs &dialogs, EventQueue &queue) {
     project.record.SetMultiUrlMode(true);
 }
 
+bool HoldsListedSites(Project &project) {
+    DataControl &table = project.database.Data2;
+    const ListBox &sites = project.lists.List1;
+    bool same = EnsureRecordSource(table, u"Data"_s);
+    for (int row = 0; row < sites.ListCount() && same; ++row)
+        same = table.MoveTo(row) && table.Text(u"Name"_s) == sites.Item(row);
+    return same;
+}
+
 bool SaveSiteSelection(Project &project, StatusForm &status, EventQueue &queue) {
     DataControl &table = project.database.Data2;
-    const QString data = u"Data"_s;
-    if (!EnsureRecordSource(table, data))
+    LeaveReplacedFile(table);
+    TableWalk sites(table, u"Data"_s);
+    if (!table.IsOpen())
         return false;
-    WalkTransaction walk(table);
-    const int rows = table.RowCount();
+    WalkTransaction transaction(table);
+    const int rows = sites.RowCount();
     status.Show(u"Saving search engine data ..."_s, rows - 1);
     bool stored = true;
-    for (int row = 0; row < rows && !status.StatusCancel && !queue.Closing(); ++row) {
-        stored = ReturnToRow(table, data, row) && table.Edit() &&
-                 table.SetBoolean(u"Selected"_s, project.lists.List1.Selected(row)) && table.Update() && stored;
+    for (int row = 0; row < rows && !status.StatusCancel; ++row) {
+        stored = sites.GoTo(row) && table.Edit() &&
+                 table.SetBoolean(u"Selected"_s, project.lists.List1.Selected(row)) && table.Update() &&
+                 stored;
         status.Advance(row);
         queue.Yield();
     }
     status.Finish();
-    return walk.Commit() && stored;
+    return transaction.Commit() && stored;
 }
 
 } // namespace lanterra

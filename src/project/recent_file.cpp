@@ -1,5 +1,7 @@
 #include "project/recent_file.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
@@ -8,9 +10,7 @@ namespace {
 
 const QString section = u"RecentFiles"_s;
 
-QString Key(int index) {
-    return u"File%1"_s.arg(index);
-}
+QString Key(int index) { return u"File%1"_s.arg(index); }
 
 } // namespace
 
@@ -23,11 +23,16 @@ void RecentFile::Load() {
 }
 
 void RecentFile::Add(const QString &fileName) {
+    if (File(1) == fileName)
+        return;
     files.removeAll(fileName);
     files.prepend(fileName);
     files.resize(std::min<qsizetype>(files.size(), limit));
+    // At once: a list that is stored by halves would have lost a name.
+    QList<StoredSetting> texts;
     for (int index = 1; index <= limit; ++index)
-        store.Set(section, Key(index), File(index));
+        texts.append({section, Key(index), File(index)});
+    store.SetAll(texts);
     Announce();
 }
 

@@ -7,8 +7,8 @@
 
 namespace lanterra {
 
-/// The list of recently opened projects, newest first, five at most. It keeps itself in a section of its own of
-/// the settings store, keys File1 to File5.
+/// The list of recently opened projects, newest first, five at most. It keeps itself in a section of its own
+/// of the settings store, keys File1 to File5.
 class RecentFile : public QObject {
     Q_OBJECT
 

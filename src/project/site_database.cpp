@@ -1,5 +1,7 @@
 #include "project/site_database.h"
 
+#include "support/file_names.h"
+
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
@@ -24,11 +26,15 @@ bool SiteDatabase::BindMaster() {
 }
 
 bool SiteDatabase::BindProject() {
+    if (IsSameFile(path.Base, path.MasterFile())) {
+        Data2.SetDatabaseName(QString());
+        return false;
+    }
     return Bind(Data2, path.Base, u"Data"_s);
 }
 
 bool SiteDatabase::BindStats() {
-    if (!Data3.DatabaseName().isEmpty())
+    if (Data3.IsOpen())
         return true;
     return Bind(Data3, Data2.DatabaseName(), u"Stats"_s);
 }
@@ -41,14 +47,24 @@ void SiteDatabase::Unbind() {
 }
 
 bool EnsureRecordSource(DataControl &control, const QString &table) {
-    if (control.RecordSource() == table)
+    if (control.RecordSource() == table && control.IsOpen())
         return true;
     control.SetRecordSource(table);
     return control.Refresh();
 }
 
-bool ReturnToRow(DataControl &control, const QString &table, int row) {
-    return EnsureRecordSource(control, table) && control.MoveTo(row);
+void LeaveReplacedFile(DataControl &control) {
+    if (!control.IsInPlace())
+        control.Close();
+}
+
+TableWalk::TableWalk(DataControl &dataControl, const QString &tableName)
+    : control(dataControl), table(tableName), file(dataControl.DatabaseName()) {
+    EnsureRecordSource(control, table);
+}
+
+bool TableWalk::GoTo(int row) {
+    return OnSameFile() && EnsureRecordSource(control, table) && control.MoveTo(row);
 }
 
 } // namespace lanterra

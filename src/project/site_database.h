@@ -18,7 +18,8 @@ public:
     /// Binds Data1 to table "Data" of the master.
     bool BindMaster();
 
-    /// Binds Data2 to table "Data" of the file `Base`.
+    /// Binds Data2 to table "Data" of the file `Base`. False for a file that is no sound database, and for the
+    /// master, which is never written.
     bool BindProject();
 
     /// Gives Data3 the file of Data2 and table "Stats" if it has no file yet.
@@ -33,11 +34,32 @@ private:
     const ProjectPath &path;
 };
 
-/// Makes the control's row set that of `table`, with a refresh only if it was another one.
+/// Makes the control's row set that of `table`, with a refresh only if it isn't already. False, with no row set, if
+/// that failed.
 bool EnsureRecordSource(DataControl &control, const QString &table);
 
-/// Stands on a row of a table behind a yield, when other handlers may have moved or rebound the control. False if
-/// that row is gone.
-bool ReturnToRow(DataControl &control, const QString &table, int row);
+/// Closes a control whose file another program, such as a second instance that ended, has replaced, so that the next
+/// EnsureRecordSource reads the new one.
+void LeaveReplacedFile(DataControl &control);
+
+/// A walk over the rows of a table whose steps yield. Other handlers may move the control or turn it to another
+/// table meanwhile, and each step brings it back; one that was bound to another file ends the walk.
+class TableWalk {
+public:
+    TableWalk(DataControl &dataControl, const QString &tableName);
+
+    int RowCount() const { return control.RowCount(); }
+
+    /// Stands on a row, counted from 0. False if it is gone or the control stands on another file.
+    bool GoTo(int row);
+
+    /// Whether the control still stands on the file of the walk's beginning.
+    bool OnSameFile() const { return control.DatabaseName() == file; }
+
+private:
+    DataControl &control;
+    QString table;
+    QString file;
+};
 
 } // namespace lanterra

@@ -46,10 +46,11 @@ void ReadSiteLists(Project &project, SiteDatabaseImport *import) {
         return;
     }
     ReadSites(own, project.lists.List1);
-    EnsureRecordSource(own, u"Categories"_s);
-    ReadDirectories(own, project.lists.List2);
+    project.lists.List2.Clear();
     project.lists.List3.Clear();
-    EnsureRecordSource(own, u"Data"_s);
+    // One file that is in use is waited for once and not for each of its tables.
+    if (own.IsOpen() && EnsureRecordSource(own, u"Categories"_s))
+        ReadDirectories(own, project.lists.List2);
 }
 
 } // namespace lanterra

@@ -1,8 +1,14 @@
 #include "project/site_selection.h"
 
+#include <QSet>
+
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
+
+namespace {
+const QString lineEnd = u"\r\n"_s;
+}
 
 void SiteSelection::Command3_Click() {
     if (project.lists.List1.Enabled())
@@ -30,22 +36,21 @@ void SiteSelection::mnuEngReg_Click() { SelectByRegistration(u"reg"_s); }
 void SiteSelection::mnuEngNot_Click() { SelectByRegistration(u"nereg"_s); }
 
 // The marks are set in one step behind the walk: a run that starts in one of its yields takes the selection
-// as it was, and the list on screen is painted once.
+// as it was, marks of one project never fall on the list of another, and the list is painted once.
 template <class Test>
 void SiteSelection::MarkRows(const Test &test) {
     ListBox &list = project.lists.List1;
     if (list.ListCount() == 0 || !list.Enabled())
         return;
     DataControl &table = project.database.Data2;
-    const QString data = u"Data"_s;
-    EnsureRecordSource(table, data);
+    TableWalk sites(table, u"Data"_s);
     std::vector<bool> marks;
-    const int rows = table.RowCount();
-    for (int row = 0; row < rows && ReturnToRow(table, data, row) && !queue.Closing(); ++row) {
+    const int rows = sites.RowCount();
+    for (int row = 0; row < rows && sites.GoTo(row) && !queue.Closing(); ++row) {
         marks.push_back(test(table));
         queue.Yield();
     }
-    if (list.Enabled())
+    if (list.Enabled() && sites.OnSameFile())
         list.SetMarks(marks);
 }
 
@@ -63,16 +68,19 @@ void SiteSelection::SelectByRegistration(const QString &word) {
     });
 }
 
+// Each name once: the sessions of years name the same sites again and again.
 QString SiteSelection::JoinedSuccesses() {
-    DataControl &sessions = project.database.Data3;
-    QString joined;
+    DataControl &table = project.database.Data3;
     project.database.BindStats();
+    TableWalk sessions(table, u"Stats"_s);
+    QSet<QString> names;
     const int rows = sessions.RowCount();
-    for (int row = 0; row < rows && ReturnToRow(sessions, u"Stats"_s, row); ++row) {
-        joined += sessions.Text(u"Successful Submissions"_s);
+    for (int row = 0; row < rows && sessions.GoTo(row) && !queue.Closing(); ++row) {
+        for (const QString &name : table.Text(u"Successful Submissions"_s).split(lineEnd))
+            names.insert(name);
         queue.Yield();
     }
-    return joined;
+    return QStringList(names.begin(), names.end()).join(lineEnd);
 }
 
 } // namespace lanterra

@@ -106,8 +106,11 @@ private:
     SiteSourceReading result;
 };
 
+// A byte order mark in front of a text is dropped by the reader unless it is escaped.
 QString JsonList(const QStringList &texts) {
-    return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact));
+    QString list =
+        QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact));
+    return list.replace(QChar(QChar::ByteOrderMark), "\\ufeff"_L1);
 }
 
 // Only a list or an object is a document, so a text is written as a list of one and the brackets are cut off.

@@ -16,7 +16,7 @@ const InputBox nameQuestion{
 
 } // namespace
 
-void StartProject::ChooseStartProject(const QString &commandLine, const EventQueue &queue) {
+void StartProject::ChooseStartProject(const QString &commandLine) {
     if (FileExists(commandLine))
         project.path.Base = commandLine;
     else
@@ -41,11 +41,13 @@ bool StartProject::CreateProject(const QString &typedName) {
                               BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::No};
     if (FileExists(file) && dialogs.Show(question) != BoxAnswer::Yes)
         return false;
-    path.Base = file;
     path.CreateProjectsFolder();
-    path.SplitProjectPath();
-    files.SaveProject(path.MasterFile());
-    return true;
+    const StoreResult made = files.MakeFromMaster(file);
+    if (made.stored)
+        return true;
+    path.Base.clear();
+    dialogs.Show({u"The project could not be created: "_s + made.failure, u"Error"_s, BoxIcon::Critical});
+    return false;
 }
 
 } // namespace lanterra

@@ -9,16 +9,18 @@ namespace lanterra {
 /// Finds a project for the start of the program, and doesn't let go before there is one.
 class StartProject {
 public:
-    StartProject(Project &openProject, ProjectFiles &projectFiles, Forms &formOpener, Dialogs &inputDialogs)
-        : project(openProject), files(projectFiles), forms(formOpener), dialogs(inputDialogs) {}
+    StartProject(Project &openProject, ProjectFiles &projectFiles, Forms &formOpener, Dialogs &inputDialogs,
+                 const EventQueue &eventQueue)
+        : project(openProject), files(projectFiles), forms(formOpener), dialogs(inputDialogs), queue(eventQueue) {}
 
     /// Takes the file of the command line if it exists, else what frmProjectDialog chooses, and loads it; without
     /// either asks for the name of a new project until one is given, and creates it from the master. Its lists
-    /// are empty until the next load. `closing` ends the asking when the program ends. Yields.
-    void ChooseStartProject(const QString &commandLine, const EventQueue &queue);
+    /// are empty until the next load. The end of the program ends the asking. Yields.
+    void ChooseStartProject(const QString &commandLine);
 
     /// Creates a project of the typed name in the folder for projects; asks before an existing file is replaced,
-    /// No as default. False for a name of which nothing is left, and for No.
+    /// No as default. False for a name of which nothing is left, for No, and if the file could not be made, which
+    /// a box tells. Yields.
     bool CreateProject(const QString &typedName);
 
 private:
@@ -26,6 +28,7 @@ private:
     ProjectFiles &files;
     Forms &forms;
     Dialogs &dialogs;
+    const EventQueue &queue;
 };
 
 } // namespace lanterra

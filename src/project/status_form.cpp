@@ -7,12 +7,18 @@ using namespace Qt::StringLiterals;
 namespace lanterra {
 
 void StatusForm::Show(const QString &text, int newMaximum) {
-    StatusCancel = false;
-    maximum = std::max(newMaximum, 1);
-    value = 0;
+    if (depth++ > 0)
+        waiting.push_back({Label1.Caption(), maximum, value, StatusCancel, visible});
     Caption.SetCaption(u"Submission status"_s);
-    Label1.SetCaption(text);
-    SetVisible(true);
+    Take({text, std::max(newMaximum, 1), 0, false, true});
+}
+
+void StatusForm::Take(const Job &job) {
+    StatusCancel = job.cancelled;
+    maximum = job.maximum;
+    value = job.value;
+    Label1.SetCaption(job.text);
+    SetVisible(job.visible);
     emit ValueChanged(value);
 }
 
@@ -23,7 +29,13 @@ void StatusForm::Advance(int newValue) {
 
 void StatusForm::Finish() {
     Advance(maximum);
-    SetVisible(false);
+    if (--depth == 0) {
+        SetVisible(false);
+        return;
+    }
+    const Job outer = waiting.back();
+    waiting.pop_back();
+    Take(outer);
 }
 
 void StatusForm::SSCommand1_Click() {

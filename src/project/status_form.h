@@ -2,18 +2,21 @@
 
 #include "controls/label.h"
 
+#include <vector>
+
 namespace lanterra {
 
-/// frmStatus: the progress of a long job, with a Cancel that the job looks at between its steps.
+/// frmStatus: the progress of a long job, with a Cancel that the job looks at between its steps. A job that begins
+/// in a yield of another one has the form to itself until it ends, its Cancel included.
 class StatusForm : public QObject {
     Q_OBJECT
 
 public:
-    /// Shows the form without blocking and lowers the cancel flag. `maximum` below 1 counts as 1.
+    /// Begins a job: shows the form without blocking and lowers the cancel flag. `maximum` below 1 counts as 1.
     void Show(const QString &text, int maximum);
     /// Moves the bar. A value above the maximum is clipped.
     void Advance(int newValue);
-    /// Fills the bar and hides the form.
+    /// Fills the bar and gives the form back to the job before this one, or hides it.
     void Finish();
 
     void SSCommand1_Click();
@@ -31,11 +34,21 @@ signals:
     void ValueChanged(int value);
 
 private:
+    struct Job {
+        QString text;
+        int maximum = 1;
+        int value = 0;
+        bool cancelled = false;
+        bool visible = false;
+    };
     void SetVisible(bool show);
+    void Take(const Job &job);
 
     bool visible = false;
     int maximum = 1;
     int value = 0;
+    int depth = 0;             ///< jobs that have begun and not ended
+    std::vector<Job> waiting; ///< the jobs around the one on show, outermost first
 };
 
 } // namespace lanterra

@@ -37,6 +37,20 @@ void RunResult::NoteDispatch(std::chrono::milliseconds moment) {
     firstDispatch = lastVerdict = moment;
 }
 
+void RunResult::Judge(int listIndex, const SiteOutcome &outcome, std::chrono::milliseconds moment) {
+    if (listIndex >= 0 && listIndex < static_cast<int>(outcomes.size()))
+        outcomes[static_cast<std::size_t>(listIndex)] = outcome;
+    lastVerdict = moment;
+}
+
+void RunResult::Explain(int listIndex, const QString &reason) {
+    if (listIndex < 0 || listIndex >= static_cast<int>(outcomes.size()))
+        return;
+    SiteOutcome &outcome = outcomes[static_cast<std::size_t>(listIndex)];
+    if (outcome.reason.isEmpty())
+        outcome.reason = reason;
+}
+
 void RunResult::AddSuccess(const QString &name, int listIndex) {
     SuccessfulNames.Store(successfulCount, name);
     SuccessfulIndex.push_back(listIndex);

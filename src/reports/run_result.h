@@ -71,7 +71,12 @@ public:
     /// the first verdict.
     std::chrono::milliseconds Duration() const { return lastVerdict - firstDispatch; }
     void NoteDispatch(std::chrono::milliseconds moment);
-    void NoteVerdict(std::chrono::milliseconds moment) { lastVerdict = moment; }
+    /// Notes how the site at a List1 position fared. An index outside the run is passed over.
+    void Judge(int listIndex, const SiteOutcome &outcome, std::chrono::milliseconds moment);
+    /// Notes that the site at a List1 position takes part in the run.
+    void Await(int listIndex) { outcomes.at(static_cast<std::size_t>(listIndex)).verdict = Verdict::None; }
+    /// Notes why a site that takes part got no verdict; the first reason stays.
+    void Explain(int listIndex, const QString &reason);
 
     QString reportFolder;   ///< with a separator at the end
     QString reportFile;

@@ -4,11 +4,17 @@
 #include "support/file_names.h"
 #include "support/text_file.h"
 
+#include <QDir>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
+
+void CreateReportFolders(const ProjectPath &path, const QString &reportFolder) {
+    QDir().mkpath(path.ProjectFolder + path.ProjectName);
+    QDir().mkpath(reportFolder);
+}
 
 QString SitePagePath(const QString &reportFolder, const QString &siteName) {
     return reportFolder + siteName + u".htm"_s;

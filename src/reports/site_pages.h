@@ -1,10 +1,15 @@
 #pragma once
 
+#include "project/project_path.h"
+
 #include <QString>
 
 namespace lanterra {
 
 /// The local pages of sites: one file a site, named after it, in the folder of the run's report.
+
+/// Creates the project's own folder and the one of the site pages; those that exist are fine.
+void CreateReportFolders(const ProjectPath &path, const QString &reportFolder);
 
 /// Where the page of a site lies, whether it exists or not.
 QString SitePagePath(const QString &reportFolder, const QString &siteName);

@@ -20,29 +20,34 @@ QString JoinedNames(const NameList &names, int count) {
 
 Statistics::Statistics(Project &openProject, MainFrame &mainFrame, Dialogs &messageDialogs,
                        EventQueue &eventQueue, const Clock &systemClock)
-    : project(openProject), frame(mainFrame), dialogs(messageDialogs), queue(eventQueue), clock(systemClock) {}
+    : project(openProject), frame(mainFrame), dialogs(messageDialogs), queue(eventQueue), clock(systemClock) {
+}
 
 bool Statistics::AppendSessionRow(const RunResult &result) {
-    DataControl &sessions = project.database.Data3;
     project.database.BindStats();
     frame.SetPointer(MousePointer::Busy);
-    const QDateTime now = clock.Now();
-    const ProjectRecord &record = project.record;
-    const bool stored =
-        sessions.AddNew() && sessions.SetText(u"Date"_s, ShortDate(now) + u", "_s + ShortTime(now)) &&
-        sessions.SetText(u"PageUrl"_s, record.txtURL.Text()) &&
-        sessions.SetText(u"Email"_s, record.txtEmail.Text()) &&
-        // Sites that got no verdict, because of Cancel, don't count as selected here.
-        sessions.SetNumber(u"Selected"_s, result.SuccessfulCount() + result.FailedCount()) &&
-        sessions.SetNumber(u"Successful"_s, result.SuccessfulCount()) &&
-        sessions.SetNumber(u"Failed"_s, result.FailedCount()) &&
-        sessions.SetNumber(u"Time"_s, result.elapsedSeconds) &&
-        sessions.SetText(u"Successful Submissions"_s,
-                         JoinedNames(result.SuccessfulNames, result.SuccessfulCount())) &&
-        sessions.SetText(u"Failed Submissions"_s, JoinedNames(result.FailedNames, result.FailedCount())) &&
-        sessions.Update();
+    LeaveReplacedFile(project.database.Data3);
+    const bool stored = EnsureRecordSource(project.database.Data3, u"Stats"_s) && AddRow(result);
     frame.SetPointer(MousePointer::Default);
     return stored;
+}
+
+bool Statistics::AddRow(const RunResult &result) {
+    DataControl &sessions = project.database.Data3;
+    const QDateTime now = clock.Now();
+    const ProjectRecord &record = project.record;
+    return sessions.AddNew() && sessions.SetText(u"Date"_s, ShortDate(now) + u", "_s + ShortTime(now)) &&
+           sessions.SetText(u"PageUrl"_s, record.txtURL.Text()) &&
+           sessions.SetText(u"Email"_s, record.txtEmail.Text()) &&
+           // Sites that got no verdict, because of Cancel, don't count as selected here.
+           sessions.SetNumber(u"Selected"_s, result.SuccessfulCount() + result.FailedCount()) &&
+           sessions.SetNumber(u"Successful"_s, result.SuccessfulCount()) &&
+           sessions.SetNumber(u"Failed"_s, result.FailedCount()) &&
+           sessions.SetNumber(u"Time"_s, result.elapsedSeconds) &&
+           sessions.SetText(u"Successful Submissions"_s,
+                            JoinedNames(result.SuccessfulNames, result.SuccessfulCount())) &&
+           sessions.SetText(u"Failed Submissions"_s, JoinedNames(result.FailedNames, result.FailedCount())) &&
+           sessions.Update();
 }
 
 void Statistics::cmdOrder_Click() {
@@ -56,14 +61,15 @@ void Statistics::cmdOrder_Click() {
 
 void Statistics::ShowTotals() {
     DataControl &sessions = project.database.Data3;
-    const int rows = sessions.RowCount();
+    TableWalk walk(sessions, u"Stats"_s);
+    const int rows = walk.RowCount();
     Label42.SetCaption(QString::number(rows));
     if (sessions.MoveLast())
         Label47.SetCaption(sessions.Text(u"Date"_s));
-    int successful = 0;
-    int failed = 0;
-    int total = 0;
-    for (int row = 0; row < rows && ReturnToRow(sessions, u"Stats"_s, row); ++row) {
+    qint64 successful = 0;
+    qint64 failed = 0;
+    qint64 total = 0;
+    for (int row = 0; row < rows && walk.GoTo(row) && !queue.Closing(); ++row) {
         successful += sessions.Number(u"Successful"_s);
         failed += sessions.Number(u"Failed"_s);
         total += sessions.Number(u"Selected"_s);
@@ -77,22 +83,31 @@ void Statistics::ShowTotals() {
 void Statistics::Command10_Click() {
     if (!Command10.Enabled())
         return;
-    const MessageBox question{u"Are you sure you want to delete project statistics ?"_s, u"Zephyrine Lanterra"_s,
-                              BoxIcon::Critical, BoxButtons::YesNo, BoxAnswer::No};
-    if (dialogs.Show(question) == BoxAnswer::Yes)
-        DeleteAllRows();
+    const MessageBox question{u"Are you sure you want to delete project statistics ?"_s,
+                              u"Zephyrine Lanterra"_s, BoxIcon::Critical, BoxButtons::YesNo, BoxAnswer::No};
+    if (dialogs.Show(question) == BoxAnswer::Yes && Command10.Enabled())
+        TellUnlessDeleted(DeleteAllRows());
     project.database.BindStats();
     DBGrid1.Rebind(project.database.Data3);
 }
 
 // Data2 stays on "Stats": whoever needs it on another table tests its record source.
-void Statistics::DeleteAllRows() {
+bool Statistics::DeleteAllRows() {
     DataControl &rows = project.database.Data2;
     rows.SetRecordSource(u"Stats"_s);
     rows.Refresh();
-    const WalkTransaction walk(rows);
+    WalkTransaction walk(rows);
     while (rows.MoveFirst() && rows.Delete()) {
     }
+    return walk.Commit() && rows.IsOpen() && rows.RowCount() == 0;
+}
+
+void Statistics::TellUnlessDeleted(bool deleted) {
+    if (!deleted)
+        dialogs.Show({.text = u"The statistics could not be deleted. "_s,
+                      .title = u"Error"_s,
+                      .icon = BoxIcon::Critical,
+                      .detail = project.database.Data2.Failure()});
 }
 
 } // namespace lanterra

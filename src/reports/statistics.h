@@ -26,7 +26,8 @@ public:
     /// Fills the labels and the grid and shows the pane. Yields after each row.
     void cmdOrder_Click();
 
-    /// "Clear": asks, and deletes all rows on Yes. The labels keep the old totals until the pane is opened again.
+    /// "Clear": asks, and deletes all rows on Yes. The labels keep the old totals until the pane is opened
+    /// again.
     void Command10_Click();
 
     Label Label42; ///< number of sessions
@@ -38,8 +39,10 @@ public:
     SessionGrid DBGrid1;
 
 private:
+    bool AddRow(const RunResult &result);
     void ShowTotals();
-    void DeleteAllRows();
+    bool DeleteAllRows();
+    void TellUnlessDeleted(bool deleted);
 
     Project &project;
     MainFrame &frame;

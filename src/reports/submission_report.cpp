@@ -9,6 +9,8 @@
 #include "support/whole_file.h"
 
 #include <QDir>
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -41,8 +43,7 @@ SubmissionReport::SubmissionReport(Project &openProject, const RunResult &runRes
 
 bool SubmissionReport::WriteSubmissionReport() {
     project.path.SplitProjectPath();
-    QDir().mkpath(project.path.ProjectFolder + project.path.ProjectName);
-    QDir().mkpath(result.reportFolder);
+    CreateReportFolders(project.path, result.reportFolder);
     WriteNotSelectedPages();
 
     WholeFile file(result.reportFile);
@@ -85,18 +86,22 @@ bool SubmissionReport::WriteRecord(WholeFile &file, const QString &record, const
 
 bool SubmissionReport::WriteRows(WholeFile &file, const QString &loop) {
     struct List {
+        QString name;
         const NameList &names;
         int rows;
     };
-    const QString name = loop.mid(1, loop.indexOf(u' ') - 1);
+    const std::array lists{List{u"@SuccessfulNames"_s, result.SuccessfulNames, result.SuccessfulCount()},
+                           List{u"@FailedNames"_s, result.FailedNames, result.FailedCount()},
+                           // with the row behind the last name
+                           List{u"@NotSelectedNames"_s, result.NotSelectedNames, result.NotSelectedCount() + 1}};
     const QString record = loop.mid(loop.indexOf(u' ') + 1);
-    // The list of sites that were not selected has the row behind its last name, too.
-    const List list = name == "SuccessfulNames"_L1 ? List{result.SuccessfulNames, result.SuccessfulCount()}
-                      : name == "FailedNames"_L1   ? List{result.FailedNames, result.FailedCount()}
-                                                   : List{result.NotSelectedNames, result.NotSelectedCount() + 1};
+    const auto list = std::find_if(lists.begin(), lists.end(), [&](const List &one) {
+        return one.name == QStringView(loop).left(loop.indexOf(u' '));
+    });
+    Q_ASSERT(list != lists.end());
     bool good = true;
-    for (int index = 0; index < list.rows && NameList::Holds(index); ++index) {
-        const QString site = list.names.At(index);
+    for (int index = 0; index < list->rows && NameList::Holds(index); ++index) {
+        const QString site = list->names.At(index);
         const QString href = ReportLink(SitePagePath(result.reportFolder, site));
         good = WriteRecord(file, record, {{u"HREF"_s, href}, {u"SITE"_s, site}}) && good;
         queue.Yield();

@@ -18,8 +18,8 @@ class WholeFile;
 ///     own before that, so an empty line follows it;
 ///   - {NAME} is replaced by a value of the run, unescaped;
 ///   - a line "@List text" is written once for each name of that list, with {HREF} and {SITE} of the name.
-/// Its odd markup is part of the report's form, which other tools of its users read: doubled end tags, colours of
-/// five digits, missing blanks.
+/// Its odd markup is kept byte for byte, as reports have always been written: doubled end tags, colours of five
+/// digits, missing blanks.
 class SubmissionReport {
 public:
     SubmissionReport(Project &openProject, const RunResult &runResult, const Clock &systemClock,

@@ -9,19 +9,20 @@ namespace lanterra {
 Program::Program(const Doors &doors, const QString &programFolder)
     : options(doors.settings), hosts(programFolder), databaseFiles(SiteSchema()),
       project(programFolder, databaseFiles), recentFile(doors.settings),
-      windowSettings(options, project.path.Base), frmSettings(options, windowSettings),
+      windowSettings(options, project.path.Base), frmSettings(options, windowSettings, doors.dialogs),
       frmWebBrowser(options, doors.dialogs, project.path.Base), proxy(frmSettings),
       viewer(frmWebBrowser.BrowserPath, doors.documents, doors.dialogs),
       files({project, frame, frmStatus, recentFile, windowSettings, doors.dialogs, doors.queue}),
-      startProject(project, files, doors.forms, doors.dialogs), entry(project.record, doors.dialogs),
-      siteSelection(project, doors.queue), categorySelection(project, doors.queue),
+      startProject(project, files, doors.forms, doors.dialogs, doors.queue), entry(project.record, doors.dialogs),
+      siteSelection(project, doors.queue), categorySelection(project, doors.dialogs, doors.queue),
       report(project, result, doors.clock, doors.queue),
       statistics(project, frame, doors.dialogs, doors.queue, doors.clock),
-      channels({submitForm, result, project.lists.List1, project.record.txtLimit, doors.queue, doors.clock},
+      reportDocuments(project.path, viewer),
+      channels({submitForm, result, project.lists, project.record.txtLimit, doors.queue, doors.clock},
                doors.makeClient),
       collector(project, files, frmStatus, doors.queue),
       counter(doors.makeClient(), hosts, options, project.path.AppPath() + u"tmp.mth"_s),
-      run({project, frame, files, frmSettings, proxy, channels, submitForm, collector, counter, result, report,
+      run({project, frame, frmStatus, files, frmSettings, proxy, channels, submitForm, collector, counter, result, report,
            statistics, viewer, doors.dialogs, doors.forms, doors.queue, doors.clock}) {
     for (int number = 1; number <= channelCount; ++number)
         proxy.AddClient(channels.Channel(number).Client());

@@ -6,6 +6,7 @@
 #include "project/project_files.h"
 #include "project/site_selection.h"
 #include "project/start_project.h"
+#include "reports/report_documents.h"
 #include "reports/statistics.h"
 #include "settings/web_browser_form.h"
 #include "submission/submission_run.h"
@@ -53,6 +54,7 @@ public:
     RunResult result;
     SubmissionReport report;
     Statistics statistics;
+    ReportDocuments reportDocuments;
 
     SubmitForm submitForm;
     ChannelBank channels;

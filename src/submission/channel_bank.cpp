@@ -27,9 +27,7 @@ ChannelBank::ChannelBank(const Parts &theParts, const ClientFactory &makeClient)
     for (std::size_t i = 0; i < channels.size(); ++i) {
         ResponseAnalysis *scan = i == scanningChannel ? &headerScan : nullptr;
         channels[i] = std::make_unique<SubmissionChannel>(SubmissionChannel::Parts{
-            makeClient(), parts.form.channels[i], parts.result, parts.clock, scan});
-        QObject::connect(channels[i].get(), &SubmissionChannel::ErrorAccepted, channels[i].get(),
-                         [this](int listIndex) { lastErrorSite = listIndex; });
+            makeClient(), parts.form.channels[i], parts.result, lastErrorSite, parts.clock, scan});
     }
 }
 
@@ -39,14 +37,12 @@ void ChannelBank::BeginRun() {
         channel->BeginRun();
 }
 
-void ChannelBank::ClearDisplays() {
-    for (const auto &channel : channels)
+void ChannelBank::Prepare() {
+    for (const auto &channel : channels) {
         channel->ClearDisplay();
-}
-
-void ChannelBank::FreeAll() {
-    for (const auto &channel : channels)
         channel->free = true;
+        channel->SwitchOn();
+    }
 }
 
 void ChannelBank::CancelAll() {
@@ -75,14 +71,14 @@ SubmissionChannel *ChannelBank::Candidate() {
 
 void ChannelBank::Connect(const SiteRequest &request, int nextSite) {
     SubmissionChannel *candidate = Candidate();
-    if (candidate && nextSite == parts.List1.ListCount())
+    const SiteLists &lists = parts.lists;
+    if (candidate && nextSite == lists.List1.ListCount())
         return;
-    if (candidate && parts.List1.Selected(nextSite)) {
+    if (candidate && lists.List1.Selected(nextSite)) {
         if (candidate->disabled)
-            parts.result.outcomes.at(static_cast<std::size_t>(nextSite)).reason =
-                u"not sent, because the channel that was next is disabled"_s;
+            parts.result.Explain(nextSite, u"not sent, because the channel that was next is disabled"_s);
         else
-            candidate->Claim(request, nextSite);
+            candidate->Claim(request, lists.SiteName(nextSite), nextSite);
     }
     parts.queue.Yield();
     CheckChannelTimeouts();

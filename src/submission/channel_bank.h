@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/list_box.h"
 #include "ports/event_queue.h"
+#include "project/site_lists.h"
 #include "submission/submission_channel.h"
 
 #include <array>
@@ -19,20 +19,25 @@ public:
     struct Parts {
         SubmitForm &form;
         RunResult &result;
-        const ListBox &List1;
+        const SiteLists &lists;
         const TextBox &txtLimit; ///< seconds that a request may take, as a text
         EventQueue &queue;
         const Clock &clock;
     };
 
     ChannelBank(const Parts &theParts, const ClientFactory &makeClient);
+    Q_DISABLE_COPY_MOVE(ChannelBank)
 
+    /// `number` is 1 to 5; any other throws std::out_of_range.
     SubmissionChannel &Channel(int number) { return *channels.at(static_cast<std::size_t>(number - 1)); }
 
+    /// Makes all channels ready for sites, none of them disabled.
     void BeginRun();
-    void ClearDisplays();
-    void FreeAll();
+    /// Empties what the pane shows of them, frees them and switches their clients on.
+    void Prepare();
+    /// Ends all exchanges silently and frees the channels, in their order.
     void CancelAll();
+    /// Gives all buttons the idle picture.
     void ShowIdle();
 
     bool AnyFree() const;

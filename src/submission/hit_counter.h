@@ -20,14 +20,15 @@ public:
     /// Begins the request; one of an earlier run that is still under way is given up.
     void Fire();
 
-    /// Deletes the scratch file that the answer went to.
-    void RemoveScratchFile() const;
+    /// Deletes the scratch file that the answer went to, and that of an answer still to come when it has come.
+    void RemoveScratchFile();
 
 private:
     std::unique_ptr<HttpClient> client;
     const Hosts &hosts;
     Options &options;
     QString scratchFile;
+    bool runEnded = false; ///< the scratch file is not kept
 };
 
 } // namespace lanterra

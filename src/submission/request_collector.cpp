@@ -13,18 +13,19 @@ bool RequestCollector::CollectSubmissionData() {
     files.mnuFileSave_Click();
 
     requests.assign(static_cast<std::size_t>(project.lists.List1.ListCount()), {});
-    EnsureRecordSource(table, u"Data"_s);
-    const int rows = table.RowCount();
+    TableWalk sites(table, u"Data"_s);
+    const int rows = sites.RowCount();
     status.Show(u"Collecting submission data ..."_s, rows - 1);
-    for (int row = 0; row < rows && !status.StatusCancel && !queue.Closing(); ++row) {
+    bool cancelled = false;
+    for (int row = 0; row < rows && !cancelled && !queue.Closing(); ++row) {
         // Sites behind the end of List1 have no place in the table of requests.
-        if (row < static_cast<int>(requests.size()) && ReturnToRow(table, u"Data"_s, row) &&
-            table.Boolean(u"Selected"_s))
+        if (row < static_cast<int>(requests.size()) && sites.GoTo(row) && table.Boolean(u"Selected"_s))
             requests[static_cast<std::size_t>(row)] = RequestOfRow(row, values);
         status.Advance(row);
-        queue.Yield();
+        cancelled = status.StatusCancel;
+        if (!cancelled)
+            queue.Yield();
     }
-    const bool cancelled = status.StatusCancel;
     status.Finish();
     if (project.database.Data1.DatabaseName() != project.path.MasterFile())
         project.database.BindMaster();
@@ -63,10 +64,9 @@ QString RequestCollector::data_parsiraj_query_kategorije(const QString &name) {
 
 QString RequestCollector::data_proveri_selektovane_kategorije(const QString &selectedNames) {
     DataControl &table = project.database.Data2;
-    const QString categories = u"Categories"_s;
-    EnsureRecordSource(table, categories);
-    const int rows = table.RowCount();
-    for (int row = 0; row < rows && ReturnToRow(table, categories, row); ++row) {
+    TableWalk directories(table, u"Categories"_s);
+    const int rows = directories.RowCount();
+    for (int row = 0; row < rows && directories.GoTo(row) && !queue.Closing(); ++row) {
         const QString name = table.Text(u"Name"_s);
         // A category that was never written (Null) passes; only one that is the empty text is missing.
         const bool missing = !table.IsNull(u"Selected"_s) && table.Text(u"Selected"_s).isEmpty();

@@ -9,6 +9,12 @@ public:
 
     /// The job over all URLs of the project. Drives SubmissionRun::cmdStart_Click itself. Yields.
     virtual void SubmitMultipleUrls() = 0;
+
+    /// The top search engines, through their own form. Yields.
+    virtual void SubmitTopEngines() = 0;
+
+    /// The page of ready-filled forms. Yields.
+    virtual void WriteSemiPage() = 0;
 };
 
 /// The look for a newer version of the program, made beside a run.

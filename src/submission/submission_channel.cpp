@@ -29,21 +29,25 @@ void SubmissionChannel::ClearDisplay() {
     parts.display.site.SetCaption(QString());
 }
 
-void SubmissionChannel::Claim(const SiteRequest &siteRequest, int listIndex) {
+void SubmissionChannel::SwitchOn() {
+    parts.client->SetRequestSwitchA(true);
+    parts.client->SetRequestSwitchB(true);
+}
+
+void SubmissionChannel::Claim(const SiteRequest &siteRequest, const QString &name, int listIndex) {
     HttpClient &client = *parts.client;
     completed = closed = free = false;
     request = siteRequest;
+    siteName = name;
     client.SetResponseText(QString());
     firstChunk = true;
     siteIndex = listIndex;
-    parts.display.site.SetCaption(request.name);
-    client.SetRequestSwitchA(true);
-    client.SetRequestSwitchB(true);
+    parts.display.site.SetCaption(siteName);
+    SwitchOn();
     client.SetTarget(RequestTarget(request));
     parts.display.button.SetPicture(ButtonPicture::Dispatched);
     parts.display.status.SetCaption(u"finding site..."_s);
-    client.SetSaveFile(CanHavePage(request.name) ? SitePagePath(parts.result.reportFolder, request.name)
-                                                 : QString());
+    client.SetSaveFile(CanHavePage(siteName) ? SitePagePath(parts.result.reportFolder, siteName) : QString());
     parts.result.NoteDispatch(parts.clock.Elapsed());
     client.ConnectToHost();
     startSecond = RoundHalfEven(parts.clock.Timer());
@@ -80,6 +84,8 @@ void SubmissionChannel::mnuDisabled_Click() {
     disabled = !disabled;
 }
 
+// Not only in flight: a Connected that was on its way when Cancel came makes the run wait for that channel, which
+// the watchdog frees.
 void SubmissionChannel::OnConnected() {
     free = false;
     parts.display.status.SetCaption(u"connected"_s);
@@ -119,45 +125,38 @@ void SubmissionChannel::OnDone() {
         parts.display.status.SetCaption(u"done!"_s);
     }
     if (header.StatusClass() == "Redirection"_L1)
-        WriteSitePage(parts.result.reportFolder, request.name, RedirectionPage(redirectTarget, request.name));
+        WriteSitePage(parts.result.reportFolder, siteName, RedirectionPage(redirectTarget, siteName));
     completed = free = true;
 }
 
 void SubmissionChannel::OnError() {
     if (Ended())
         return;
-    emit ErrorAccepted(siteIndex);
+    parts.lastErrorSite = siteIndex;
     parts.display.button.SetPicture(ButtonPicture::Idle);
     RecordFailure(parts.client->FailureReason());
 }
 
 void SubmissionChannel::NoteVerdict(Verdict verdict, const QString &reason) {
-    const auto index = static_cast<std::size_t>(siteIndex);
-    if (index >= parts.result.outcomes.size())
-        return; // a late event for a list that has been replaced meanwhile
-    SiteOutcome &outcome = parts.result.outcomes[index];
-    outcome.verdict = verdict;
-    outcome.reason = reason;
-    outcome.bytes = parts.client->BodyBytes();
-    outcome.status = firstChunk ? std::nullopt : header.StatusCode();
-    parts.result.NoteVerdict(parts.clock.Elapsed());
+    const std::optional<int> status = firstChunk ? std::nullopt : header.StatusCode();
+    parts.result.Judge(siteIndex, {verdict, status, parts.client->BodyBytes(), reason}, parts.clock.Elapsed());
 }
 
 void SubmissionChannel::RecordSuccess() {
-    parts.result.AddSuccess(request.name, siteIndex);
+    parts.result.AddSuccess(siteName, siteIndex);
     NoteVerdict(Verdict::Successful, QString());
 }
 
 void SubmissionChannel::RecordFailure(const QString &reason) {
     if (Ended())
         return;
-    if (parts.result.FailedNames.AnyHolds(request.name)) {
+    if (parts.result.FailedNames.AnyHolds(siteName)) {
         NoteVerdict(Verdict::None, reason);
         closed = true;
         return;
     }
     if (siteIndex != lastFailedSite) {
-        parts.result.AddFailure(request.name, siteIndex);
+        parts.result.AddFailure(siteName, siteIndex);
         NoteVerdict(Verdict::Failed, reason);
     }
     lastFailedSite = siteIndex;

@@ -6,18 +6,14 @@
 #include "support/numbers.h"
 
 #include <QDir>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
-namespace {
-
-constexpr int firstDescriptionField = 10; ///< by position in the check of required fields
-
-} // namespace
-
-SubmissionRun::SubmissionRun(const Parts &theParts) : parts(theParts) {}
+SubmissionRun::SubmissionRun(const Parts &theParts)
+    : parts(theParts), checks(parts.project, parts.frame, parts.collector, parts.dialogs) {}
 
 void SubmissionRun::cmdStart_Click() {
     cancelRequested = false;
@@ -34,9 +30,10 @@ void SubmissionRun::cmdStart_Click() {
     if (!EnsureProjectFile())
         return;
     BeginRun();
-    if (!PassesChecks()) {
+    if (!checks.Pass()) {
+        SetRunActive(false);
         // A job must go on to its next URL, and waits for the close of this one.
-        if (multiActive)
+        if (std::exchange(multiActive, false))
             CloseRun();
         return;
     }
@@ -58,7 +55,7 @@ bool SubmissionRun::ModeIsAutomated() {
         SetRunActive(false);
         return false;
     }
-    if (!multiChosen)
+    if (!std::exchange(multiChosen, false))
         return true;
     if (modes)
         modes->SubmitMultipleUrls();
@@ -72,6 +69,16 @@ void SubmissionRun::mnuAuto_Click() {
 void SubmissionRun::mnuMultiple_Click() {
     multiChosen = true;
     modeUnchosen = false;
+}
+
+void SubmissionRun::mnuTop9_Click() {
+    if (modes)
+        modes->SubmitTopEngines();
+}
+
+void SubmissionRun::mnuSemi_Click() {
+    if (modes)
+        modes->WriteSemiPage();
 }
 
 bool SubmissionRun::EnsureProjectFile() {
@@ -98,58 +105,14 @@ void SubmissionRun::BeginRun() {
     parts.channels.BeginRun();
 }
 
-bool SubmissionRun::PassesChecks() {
-    TakeFaxFromPhone(parts.project.record);
-    if (!FieldsAreFilled())
-        return false;
-    selectedNames.clear();
-    const ListBox &sites = parts.project.lists.List1;
-    for (int i = 0; i < sites.ListCount(); ++i) {
-        if (sites.Selected(i))
-            selectedNames += sites.Item(i) + u"\r\n"_s;
-    }
-    return CategoriesAreChosen();
-}
-
-// The pane follows the position in the table: phone and fax, 10 and 11, stand among the other data, yet lead to the
-// description; and an empty address is found with the first field, so it leads to the other data.
-bool SubmissionRun::FieldsAreFilled() {
-    const auto fields = BindRequiredFields(parts.project.record);
-    const bool urlMissing = IsBlank(parts.project.record.txtURL.Text());
-    for (int i = 1; i <= requiredFieldCount; ++i) {
-        if (!urlMissing && !IsBlank(fields.at(static_cast<std::size_t>(i - 1))->Text()))
-            continue;
-        RefuseRun(u"You must fill all text fields"_s,
-                  i >= firstDescriptionField ? Pane::FrameDescription : Pane::FrameOtherData);
-        return false;
-    }
-    return true;
-}
-
-bool SubmissionRun::CategoriesAreChosen() {
-    if (parts.collector.data_proveri_selektovane_kategorije(selectedNames).isEmpty())
-        return true;
-    const QString name = parts.collector.data_proveri_selektovane_kategorije(selectedNames);
-    RefuseRun(u"You must select a valid category for "_s + name, Pane::fraCat);
-    return false;
-}
-
-void SubmissionRun::RefuseRun(const QString &message, Pane pane) {
-    parts.dialogs.Show({message, u"Error!"_s, BoxIcon::Exclamation});
-    parts.frame.SetPointer(MousePointer::Default);
-    parts.frame.ShowPane(pane);
-    SetRunActive(false);
-}
-
 void SubmissionRun::Prepare() {
     SubmitForm &form = parts.form;
     parts.result.Begin(parts.project.lists.List1.ListCount());
     PrepareReportPages();
     form.Label28.SetCaption(QString::number(parts.project.lists.List1.SelCount()));
     CorrectEntries(parts.project.record);
-    parts.channels.ClearDisplays();
     phase = 1;
-    parts.channels.FreeAll();
+    parts.channels.Prepare();
     parts.proxy.ApplyProxySettings();
     LockEntries(true);
     nextSite = 0;
@@ -163,15 +126,15 @@ void SubmissionRun::Prepare() {
 
 // Every selected site has a page from the start, so that one which never answers shows why.
 void SubmissionRun::PrepareReportPages() {
-    ProjectPath &path = parts.project.path;
-    path.SplitProjectPath();
-    QDir().mkpath(path.ProjectFolder + path.ProjectName);
-    QDir().mkpath(parts.result.reportFolder);
+    parts.project.path.SplitProjectPath();
+    CreateReportFolders(parts.project.path, parts.result.reportFolder);
     const QString page = BusySitePage();
     const SiteLists &lists = parts.project.lists;
     for (int i = 0; i < lists.List1.ListCount(); ++i) {
-        if (lists.List1.Selected(i))
-            WriteSitePage(parts.result.reportFolder, lists.SiteName(i), page);
+        if (!lists.List1.Selected(i))
+            continue;
+        WriteSitePage(parts.result.reportFolder, lists.SiteName(i), page);
+        parts.result.Await(i);
     }
 }
 
@@ -185,7 +148,7 @@ void SubmissionRun::LockEntries(bool locked) {
 }
 
 void SubmissionRun::CollectRequests() {
-    if (!SaveSiteSelection(parts.project, parts.files.Status(), parts.queue))
+    if (!SaveSiteSelection(parts.project, parts.status, parts.queue))
         parts.result.notStored << u"The project could not be saved: "_s + parts.project.database.Data2.Failure();
     if (!parts.collector.CollectSubmissionData())
         cancelRequested = true;
@@ -194,7 +157,7 @@ void SubmissionRun::CollectRequests() {
 
 void SubmissionRun::Dispatch() {
     startTime = parts.clock.Timer();
-    while (nextSite != parts.project.lists.List1.ListCount() && !parts.queue.Closing()) {
+    while (nextSite < parts.project.lists.List1.ListCount() && !parts.queue.Closing()) {
         while (!parts.channels.AnyFree() && !parts.queue.Closing())
             parts.channels.WaitForChannels();
         DispatchOne();
@@ -214,8 +177,9 @@ void SubmissionRun::Dispatch() {
 }
 
 void SubmissionRun::DispatchOne() {
-    if (parts.project.lists.List1.Selected(nextSite))
-        parts.channels.Connect(parts.collector.requests.at(static_cast<std::size_t>(nextSite)), nextSite);
+    const auto row = static_cast<std::size_t>(nextSite);
+    if (parts.project.lists.List1.Selected(nextSite) && row < parts.collector.requests.size())
+        parts.channels.Connect(parts.collector.requests[row], nextSite);
     ++nextSite;
 }
 
@@ -266,13 +230,12 @@ void SubmissionRun::CompleteNotSelected() {
 }
 
 void SubmissionRun::ExplainMissingVerdicts() {
+    const QString reason = parts.queue.Closing() ? u"the program was closed"_s
+                           : cancelRequested     ? u"the run was cancelled"_s
+                                                 : u"not sent, because no channel had ended"_s;
     for (int i = 0; i < static_cast<int>(parts.result.outcomes.size()); ++i) {
-        SiteOutcome &outcome = parts.result.outcomes[static_cast<std::size_t>(i)];
-        if (!parts.project.lists.List1.Selected(i) || outcome.verdict != Verdict::NotSelected)
-            continue;
-        outcome.verdict = Verdict::None;
-        if (outcome.reason.isEmpty())
-            outcome.reason = u"the run was cancelled"_s;
+        if (parts.result.outcomes[static_cast<std::size_t>(i)].verdict == Verdict::None)
+            parts.result.Explain(i, reason);
     }
 }
 

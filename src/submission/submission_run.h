@@ -13,6 +13,7 @@
 #include "submission/channel_bank.h"
 #include "submission/hit_counter.h"
 #include "submission/request_collector.h"
+#include "submission/run_checks.h"
 #include "submission/run_extensions.h"
 
 namespace lanterra {
@@ -25,6 +26,7 @@ public:
     struct Parts {
         Project &project;
         MainFrame &frame;
+        StatusForm &status;
         ProjectFiles &files;
         SettingsForm &frmSettings;
         ProxySettings &proxy;
@@ -43,6 +45,7 @@ public:
     };
 
     explicit SubmissionRun(const Parts &theParts);
+    Q_DISABLE_COPY_MOVE(SubmissionRun)
 
     /// What the popup's other modes and the upgrade check are; none, and their entries do nothing.
     void SetModes(SubmissionModes *submissionModes) { modes = submissionModes; }
@@ -52,21 +55,30 @@ public:
     /// a job over several URLs skip one. Yields.
     void cmdStart_Click();
 
-    /// Entries of the popup that cmdStart shows. An entry of another mode leaves modeUnchosen as it is.
+    /// Entries of the popup that cmdStart shows. The last two do their work at once and leave modeUnchosen as it
+    /// is, so that no run follows. They yield.
     void mnuAuto_Click();
     void mnuMultiple_Click();
+    void mnuTop9_Click();
+    void mnuSemi_Click();
+
+    /// "multiple": shows the form of several URLs. Yields.
+    void SSCommand7_Click() { parts.forms.ShowModal(ModalForm::Multi); }
 
     /// "Pause": holds the dispatch until the next press of cmdStart. While idle that press then makes its whole
     /// run inside this call. Channels in flight go on, and the watchdog stands still. Yields.
     void Command1_Click();
 
-    /// "Cancel": aborts all channels; sites without a verdict stay without one.
+    /// "Cancel": aborts all channels; sites without a verdict stay without one. A press of cmdStart takes it back,
+    /// also the one that releases Pause: the channels that had ended then take the sites that are left. Yields for
+    /// its popup during a job.
     void cmdCancel_Click();
     /// Entries of the popup that cmdCancel shows during a job over several URLs.
     void mnuCancelCurrent_Click() { ++urlCounter; }
     void mnuCancelEntire_Click() { entireCancel = true; }
 
-    /// A channel's button and its popup's entries; `number` is 1 to 5.
+    /// A channel's button, which shows its popup during a run and yields meanwhile, and its popup's entries.
+    /// `number` is 1 to 5; any other throws std::out_of_range.
     void kan_Click(int number);
     void mnuAbort_Click(int number) { parts.channels.Channel(number).mnuAbort_Click(); }
     void mnuDisabled_Click(int number) { parts.channels.Channel(number).mnuDisabled_Click(); }
@@ -87,11 +99,6 @@ private:
     bool EnsureProjectFile();
     void BeginRun();
 
-    bool PassesChecks();
-    bool FieldsAreFilled();
-    bool CategoriesAreChosen();
-    void RefuseRun(const QString &message, Pane pane);
-
     void Prepare();
     void PrepareReportPages();
     void LockEntries(bool locked);
@@ -108,6 +115,7 @@ private:
     void SetRunActive(bool active);
 
     Parts parts;
+    RunChecks checks;
     SubmissionModes *modes = nullptr;
     UpgradeCheck *upgrade = nullptr;
 
@@ -118,7 +126,6 @@ private:
     int phase = 0;            ///< 1 while sites are dispatched, 2 when all are done, 0 when closed; only written
     int nextSite = 0;         ///< index into List1
     float startTime = 0;      ///< Clock::Timer at the start of dispatch
-    QString selectedNames;    ///< names of the selected sites, each with CR LF
 };
 
 } // namespace lanterra

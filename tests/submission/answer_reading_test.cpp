@@ -20,6 +20,7 @@ TEST(HttpHeaderTest, ReadsStatusAndLocation) {
          u"http://a.example/ continued"_s},
         {u"HTTP/1.1 404\r\nX: Location: /no\r\n\r\nLocation: /body\r\n"_s, u"Client Error"_s, u""_s},
         {u"HTTP/1.1 503 Busy"_s, u"Server Error"_s, u""_s},
+        {u"HTTP/1.1 404\tNot Found\r\n\r\n"_s, u"Client Error"_s, u""_s}, // which the answer reader takes, too
         {u"HTTP/1.1 100 Continue\r\n\r\n"_s, u"Informational"_s, u""_s},
         {u"HTTP/1.1 999 Odd\r\n\r\n"_s, u""_s, u""_s},
         {u"hello 404 body"_s, u""_s, u""_s},

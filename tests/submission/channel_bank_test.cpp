@@ -170,6 +170,26 @@ TEST_F(ChannelBankTest, ASiteWhoseNameIsPartOfAFailedOneIsSwallowed) {
     EXPECT_EQ(Outcome(1).reason, u"Connection refused"_s);
 }
 
+TEST_F(ChannelBankTest, OnlyTheThirdChannelScansTheHeaderAndYieldsInIt) {
+    GivenSites(Numbered(3));
+    const auto yieldsOfHeader = [&](int channel) {
+        const int before = queue.Yields();
+        Client(channel).Receive("HTTP/1.1 200 OK\r\n\r\n");
+        return queue.Yields() - before;
+    };
+    WhenWaiting([&] {
+        EXPECT_EQ(yieldsOfHeader(2), 0);
+        EXPECT_EQ(yieldsOfHeader(3), 17);
+        EXPECT_EQ(yieldsOfHeader(3), 0); // only the first block of an answer is looked at
+        Client(1).Receive("HTTP/1.1 200 OK\r\n\r\n");
+        emit Client(1).Data("HTTP/1.1 404 Not Found\r\n\r\n");
+        for (int channel : {1, 2, 3})
+            emit Client(channel).Done();
+    });
+    PressSubmit();
+    EXPECT_EQ(Successful().size(), 3);
+}
+
 TEST_F(ChannelBankTest, DisableLosesTheSitesBehindTheLowestEndedChannel) {
     GivenSites(Numbered(8));
     WhenWaiting([&] {

@@ -315,6 +315,11 @@ class RecordingModes : public SubmissionModes {
 public:
     explicit RecordingModes(std::function<void()> onSubmit) : submit(std::move(onSubmit)) {}
     void SubmitMultipleUrls() override { submit(); }
+    void SubmitTopEngines() override { ++topEngines; }
+    void WriteSemiPage() override { ++semiPages; }
+
+    int topEngines = 0;
+    int semiPages = 0;
 
 private:
     std::function<void()> submit;
@@ -334,6 +339,7 @@ TEST_F(SubmissionRunTest, AJobDrivesThePressAndGoesOnWhenACheckStopsIt) {
         EXPECT_EQ(Run().urlCounter, 1);
 
         Run().multiIdle = false;
+        Run().multiActive = true;
         Record().txtTitle.SetText(u"Title"_s);
         PressSubmit();
         EXPECT_FALSE(Run().multiActive);
@@ -364,9 +370,112 @@ TEST_F(SubmissionRunTest, TheCounterIsCalledAtItsFirstAddressUntilAnExchangeHasE
     EXPECT_EQ(Client(6).Target(), u"http://127.0.0.1/first"_s);
     EXPECT_EQ(Client(6).aborts, 2);
     emit Client(6).Done();
+    EXPECT_EQ(settings.Get(u"Settings"_s, u"N"_s), QString());
+    Client(6).Receive("HTTP/1.1 200 OK\r\n\r\n", "1"); // the run has ended, so the scratch file goes, too
     emit Client(6).Closing();
+    EXPECT_FALSE(QFile::exists(home.filePath(u"tmp.mth"_s)));
     PressSubmit();
     EXPECT_EQ(Client(6).Target(), u"http://127.0.0.1/later"_s);
+}
+
+class CountingUpgrade : public UpgradeCheck {
+public:
+    void HoldUpgrade() override { ++holds; }
+    void ReleaseUpgrade() override { ++releases; }
+    int holds = 0;
+    int releases = 0;
+};
+
+TEST_F(SubmissionRunTest, AsksForAnUpgradeAndWritesStatisticsOnlyIfTheSettingsSaySo) {
+    GivenSites(Numbered(1));
+    EverySiteAnswers("200 OK");
+    CountingUpgrade upgrade;
+    Run().SetUpgradeCheck(&upgrade);
+    PressSubmit();
+    EXPECT_EQ(upgrade.holds, 1);
+    program->frmSettings.check_for_program_upgrade.SetValue(0);
+    program->frmSettings.CreateStatistic.SetValue(0);
+    PressSubmit();
+    EXPECT_EQ(upgrade.holds, 1);
+    EXPECT_EQ(upgrade.releases, 2); // a result is told whatever the setting says
+    program->statistics.cmdOrder_Click();
+    EXPECT_EQ(program->statistics.Label42.Caption(), u"1"_s);
+}
+
+TEST_F(SubmissionRunTest, OtherModesWorkInsideThePopupAndNoRunFollows) {
+    GivenSites(Numbered(1));
+    RecordingModes modes([] {});
+    Run().SetModes(&modes);
+    forms.onMenu[PopupMenu::Submit] = [&] {
+        Run().mnuTop9_Click();
+        Run().mnuSemi_Click();
+    };
+    PressSubmit();
+    EXPECT_EQ(modes.topEngines + modes.semiPages, 2);
+    EXPECT_EQ(Client(1).connects, 0);
+
+    Run().SetModes(nullptr); // the entry of a mode that isn't there does nothing, and stands in nobody's way
+    forms.onMenu[PopupMenu::Submit] = [&] { Run().mnuMultiple_Click(); };
+    PressSubmit();
+    forms.onMenu[PopupMenu::Submit] = [&] { Run().mnuAuto_Click(); };
+    EverySiteAnswers("200 OK");
+    PressSubmit();
+    EXPECT_EQ(Successful().size(), 1);
+}
+
+TEST_F(SubmissionRunTest, AProjectFileThatIsGoneFailsEverySiteUnderItsName) {
+    GivenSites({u"Alta"_s, u"Beta"_s});
+    QFile::remove(program->project.path.Base);
+    for (int channel = 1; channel <= channelCount; ++channel)
+        Client(channel).onConnect = [this, channel](FakeHttpClient &) { queue.Post([this, channel] { Fail(channel); }); };
+    PressSubmit();
+    EXPECT_EQ(Failed(), (QStringList{u"Alta"_s, u"Beta"_s}));
+    EXPECT_FALSE(Result().notStored.isEmpty());
+}
+
+TEST_F(SubmissionRunTest, ASaveInTheMiddleOfTheCollectionHasTheProgressFormToItself) {
+    GivenSites(Numbered(3));
+    EverySiteAnswers("200 OK");
+    bool saved = false;
+    QObject::connect(&program->frmStatus, &StatusForm::ValueChanged, &program->frmStatus, [&](int value) {
+        if (program->frmStatus.Label1.Caption() != "Collecting submission data ..."_L1 || value != 1 ||
+            std::exchange(saved, true))
+            return;
+        queue.Post([&] {
+            queue.Post([&] { program->frmStatus.SSCommand1_Click(); }); // falls on the save's own walk
+            program->files.mnuFileSave_Click();
+            EXPECT_TRUE(program->frmStatus.Visible());
+            EXPECT_EQ(program->frmStatus.Label1.Caption(), u"Collecting submission data ..."_s);
+        });
+    });
+    PressSubmit();
+    EXPECT_TRUE(saved);
+    EXPECT_EQ(Successful().size(), 3);
+}
+
+TEST_F(SubmissionRunTest, APressThatReleasesPauseTakesACancelBack) {
+    GivenSites(Numbered(7));
+    WhenWaiting([&] { Run().Command1_Click(); });
+    WhenWaiting([&] {
+        Answer(2, "200 OK");
+        Run().cmdCancel_Click();
+        EverySiteAnswers("200 OK");
+        PressSubmit();
+    });
+    PressSubmit();
+    EXPECT_EQ(Successful(), (QStringList{u"Site 2."_s, u"Site 6."_s, u"Site 7."_s}));
+}
+
+TEST_F(SubmissionRunTest, ALinkInPlaceOfAPageIsReplacedAndNotFollowed) {
+    GivenSites({u"Alta"_s});
+    const QString other = home.filePath(u"other.txt"_s);
+    ASSERT_TRUE(QFile(other).open(QIODevice::WriteOnly));
+    QDir().mkpath(home.filePath(u"Projects/Project1/report"_s));
+    ASSERT_TRUE(QFile::link(other, home.filePath(u"Projects/Project1/report/Alta.htm"_s)));
+    WhenWaiting([&] { Fail(1); });
+    PressSubmit();
+    EXPECT_EQ(QFileInfo(other).size(), 0);
+    EXPECT_TRUE(ReadPage(u"Alta"_s).contains(u"ERROR!"_s));
 }
 
 } // namespace

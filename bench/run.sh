@@ -1,0 +1,130 @@
+#!/usr/bin/env bash
+# Measures all figures of the run side by side, medians of several runs each, and prints them as a table. Everything
+# stays on this machine. Installs what is missing.
+#
+#   bench/run.sh [RUNS]     RUNS is 5 if not given
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+
+runs=${1-5}
+mapfile -t packages < <(cat tools/packages.txt tools/bench_packages.txt | grep -v '^#')
+tools/install_packages.sh "${packages[@]}"
+cmake --preset bench >/dev/null
+cmake --build --preset bench >/dev/null
+
+build=$PWD/build/bench
+work=$(mktemp -d "$build/work.XXXXXX")
+parks=()
+trap 'kill "${parks[@]}" 2>/dev/null || true; rm -rf "$work"' EXIT
+export XDG_CONFIG_HOME=$work/config
+cli=$build/bin/lanterra-cli
+measure=$build/bin/bench_measure
+
+# start_park VARIABLE OPTION...: a practice web on a port of its own; VARIABLE takes its address.
+start_park() {
+    local log=$work/park-${#parks[@]}
+    "$build/bin/lanterra-park" --port 0 "${@:2}" >"$log" &
+    parks+=($!)
+    until grep -q http "$log"; do read -rt 0.05 <> <(:) || true; done
+    printf -v "$1" %s "$(grep -o 'http://[^/]*/' "$log")"
+}
+
+# make_project NAME COUNT LIMIT ADDRESS [LAST_ADDRESS]: a folder of a program with one project of all these sites.
+make_project() {
+    local home=$work/$1
+    mkdir -p "$home"
+    bench/make_sites.sh "$2" "${@:4}" >"$home/sites.json"
+    "$cli" sitedb build "$home/sites.json" "$home/ng.dll" >/dev/null
+    local fields
+    mapfile -t fields < <(grep -vE '^[[:space:]]*(#|$)' data/example_project.txt)
+    "$cli" --home "$home" new "$home/p.rts" "${fields[@]}" "txtLimit=$3" >/dev/null
+    "$cli" --home "$home" select "$home/p.rts" --all >/dev/null
+}
+
+submit() { printf '%s\n' "$cli" --home "$work/$1" submit "$work/$1/p.rts" --json; }
+
+# The median of "milliseconds" of several runs: first dispatch to last verdict.
+dispatch_ms() {
+    local command
+    mapfile -t command < <(submit "$1")
+    for ((i = 0; i < runs; i++)); do
+        "${command[@]}" | grep -oE '"milliseconds": *[0-9]+' | grep -oE '[0-9]+'
+    done | sort -n | sed -n "$(((runs + 1) / 2))p"
+}
+
+# curl_config NAME FILE: the requests of a project, as `preview --curl` tells them, as one configuration for curl's
+# parallel mode.
+curl_config() {
+    local line number=0 folder=$work/$1
+    while IFS= read -r line; do
+        [[ $line == 'curl '* ]] || continue
+        number=$((number + 1))
+        eval "set -- ${line#curl }"
+        while (($#)); do
+            case $1 in
+            -H | --noproxy | --data-binary)
+                printf '%s = "%s"\n' "$(sed 's/^-H$/header/; s/^--//' <<<"$1")" "${2//\"/\\\"}"
+                shift
+                ;;
+            -*) printf '%s\n' "${1#--}" ;;
+            *) printf 'url = "%s"\n' "$1" ;;
+            esac
+            shift
+        done
+        printf 'output = "%s/%d.htm"\nnext\n' "$folder" "$number"
+    done < <("$cli" --home "$work/$1" preview "$work/$1/p.rts" --curl) >"$2"
+}
+
+row() { printf '| %-58s | %14s | %-22s |\n' "$@"; }
+ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.2f", a / b }'; }
+
+start_park quick
+start_park slow --latency 200
+quick_form=${quick}behave/plain
+silent_form=${quick}behave/silence
+
+row "What" "measured" "to reach"
+row "---" "---:" "---"
+
+# 500 sites that answer at once and close each connection, beside curl with the same requests.
+make_project quick 500 45 "$quick_form"
+curl_config quick "$work/curl.txt"
+curl_command=(curl --silent --parallel --parallel-immediate --parallel-max 5 --config "$work/curl.txt")
+ours=$(dispatch_ms quick)
+read -r _ our_cpu our_peak < <("$measure" "$runs" $(submit quick))
+read -r curl_wall curl_cpu _ < <("$measure" "$runs" "${curl_command[@]}")
+row "500 sites, first dispatch to last verdict" "$ours ms" ""
+row "curl, the same requests" "$curl_wall ms" ""
+row "ratio of both" "$(ratio "$ours" "$curl_wall")" "1.0"
+row "processor time of the whole command" "$our_cpu ms" ""
+row "curl's" "$curl_cpu ms" ""
+row "ratio of both" "$(ratio "$our_cpu" "$curl_cpu")" "2.0"
+
+# 500 sites at 200 ms: five channels can't be faster than 20 s.
+make_project slow 500 45 "${slow}behave/plain"
+slow_ms=$(dispatch_ms slow)
+row "500 sites at 200 ms latency, over the ideal 20 s" "$(ratio "$slow_ms" 20000)" "1.02"
+
+# Five sites that never answer: the processor time of waiting ten seconds more.
+make_project wait1 5 1 "$silent_form"
+make_project wait11 5 11 "$silent_form"
+read -r _ short_cpu _ < <("$measure" "$runs" $(submit wait1))
+read -r _ long_cpu _ < <("$measure" "$runs" $(submit wait11))
+row "processor time of waiting, share of a core" \
+    "$(awk -v a="$long_cpu" -v b="$short_cpu" 'BEGIN { printf "%.3f %%", (a - b) / 100 }')" "0.5 %"
+
+# Memory with and without one answer of 60 MiB.
+make_project big 500 45 "$quick_form" "${quick}behave/60-mib"
+read -r _ _ big_peak < <("$measure" "$runs" $(submit big))
+row "peak memory, 500 sites" "$((our_peak / 1024)) MiB" "40 MiB"
+row "more with one answer of 60 MiB" "$((big_peak - our_peak)) KiB" "1024 KiB"
+
+read -r version_wall _ _ < <("$measure" 21 "$cli" --version)
+read -r smallest_wall _ _ < <("$measure" 21 "$build/bin/bench_smallest_qt")
+row "start of lanterra-cli --version" "$version_wall ms" ""
+row "start of the smallest Qt program" "$smallest_wall ms" ""
+row "ratio of both" "$(ratio "$version_wall" "$smallest_wall")" "2"
+
+echo
+(cd "$build" && bin/bench_project --benchmark_repetitions="$runs" --benchmark_report_aggregates_only=true 2>/dev/null |
+    grep -E 'median|Benchmark')

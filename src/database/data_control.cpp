@@ -65,10 +65,14 @@ bool DataControl::Open() {
         return Fail(u"There is no such file."_s);
     const auto mode =
         access == Access::ReadOnly ? SqliteConnection::Mode::ReadOnly : SqliteConnection::Mode::ReadWrite;
+    if (!IsInPlace())
+        Release();
     if (!file)
         file = files.Open(databaseName, mode, failure);
     return file != nullptr;
 }
+
+bool DataControl::IsInPlace() const { return !file || file->IsInPlace(); }
 
 void DataControl::Close() { Release(); }
 

@@ -39,15 +39,22 @@ public:
     void SetRecordSource(const QString &table);
     const QString &RecordSource() const;
 
-    /// Reads the row set anew and stands on its first row. False if the file is missing, is no sound database
-    /// (checked before SQLite sees it), is locked for more than 200 ms, or has no such table; the row set is
-    /// then empty and no file was created or changed.
+    /// Reads the row set anew and stands on its first row, in a file that has taken the place of the old one
+    /// too. False if the file is missing, is no sound database (checked before SQLite sees it), is locked for
+    /// more than 200 ms, or has no such table; the row set is then empty and no file was created or changed.
     bool Refresh();
 
     /// Releases the file, so that it can be copied once no other control uses it. Uncommitted work of a
     /// running walk is committed first. The name and the record source stay; the row set is empty until the
     /// next Refresh.
     void Close();
+
+    /// Whether a row set stands: the last Refresh worked, and the file wasn't closed or rebound since.
+    bool IsOpen() const { return table != nullptr; }
+
+    /// False once another program has replaced or removed the file. What is written then fails; a Close and a
+    /// Refresh lead to the new file.
+    bool IsInPlace() const;
 
     int RowCount() const;
     /// Stand on a row. False, with no current row, if there is none.

@@ -46,7 +46,8 @@ TableRows::Row RowOf(const QSqlQuery &query, qsizetype fieldCount) {
 } // namespace
 
 DatabaseFile::DatabaseFile(QString path, SqliteConnection::Mode mode)
-    : filePath(std::move(path)), connection(std::make_unique<SqliteConnection>(filePath, mode)),
+    : filePath(std::move(path)), identity(IdentityOf(filePath)),
+      connection(std::make_unique<SqliteConnection>(filePath, mode)),
       writable(mode != SqliteConnection::Mode::ReadOnly) {}
 
 DatabaseFile::~DatabaseFile() { CommitWalk(); }
@@ -57,9 +58,13 @@ bool DatabaseFile::ReadTables(const DatabaseSchema &wanted) {
         refusal = SchemaDifference(schema, wanted);
     return refusal.isEmpty() || Fail(refusal);
 }
+    if (refusal.isEmpty() && !PassesIntegrityCheck(*connection))
+        refusal = connection->Failure().isEmpty() ? u"The database is damaged."_s : connection->Failure();
 
 bool DatabaseFile::MakeWritable() {
     if (writable)
+bool DatabaseFile::IsInPlace() const { return IdentityOf(filePath) == identity; }
+
         return true;
     auto other = std::make_unique<SqliteConnection>(filePath, SqliteConnection::Mode::ReadWrite);
     if (!other->Failure().isEmpty())
@@ -155,8 +160,10 @@ void DatabaseFile::EndWalk() {
 bool DatabaseFile::CommitWalk() {
     if (!walk || !walk->begun)
         return !walk || walk->failure.isEmpty();
-    if (!connection->Run(u"COMMIT"_s)) {
-        UndoWalk();
+    // SQLite looks for a replaced file only when a transaction begins.
+    const bool inPlace = IsInPlace();
+    if (!inPlace || !connection->Run(u"COMMIT"_s)) {
+        UndoWalk(inPlace ? connection->Failure() : u"The file was replaced or removed by another program."_s);
         return false;
     }
     walk->begun = false;
@@ -187,14 +194,14 @@ QSqlQuery *DatabaseFile::Write(const QString &sql, const QVariantList &values) {
         return query;
     Fail(connection->Failure());
     if (walk)
-        UndoWalk();
+        UndoWalk(failure);
     return nullptr;
 }
 
 // SQLite has itself ended the transaction after some failures (a full disk); the statement here then fails,
 // and nothing is lost by that.
-void DatabaseFile::UndoWalk() {
-    walk->failure = connection->Failure();
+void DatabaseFile::UndoWalk(const QString &reason) {
+    walk->failure = reason;
     walk->begun = false;
     Fail(walk->failure);
     connection->Run(u"ROLLBACK"_s);

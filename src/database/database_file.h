@@ -2,6 +2,7 @@
 
 #include "database/sqlite_connection.h"
 #include "database/table_rows.h"
+#include "support/file_names.h"
 
 #include <map>
 #include <memory>
@@ -27,10 +28,15 @@ public:
     ~DatabaseFile();
     Q_DISABLE_COPY_MOVE(DatabaseFile)
 
-    /// Reads the schema. False if it is refused; with `wanted` not empty, also if the tables are others.
+    /// Reads the schema. False if it is refused, if the file is damaged, and with `wanted` not empty, also if
+    /// the tables are others.
     bool ReadTables(const DatabaseSchema &wanted);
     /// Lets a file that was opened read-only be written. False if that fails; it is then read-only as before.
     bool MakeWritable();
+
+    /// False once the path leads to another file, or to none: another program has replaced or removed it, and
+    /// what is written here is lost.
+    bool IsInPlace() const;
 
     /// Reads the rows of a table anew, for all who share them. Nothing on failure, with the old rows
     /// untouched.
@@ -44,7 +50,8 @@ public:
     /// Everything written from here to the matching EndWalk is one transaction; walks nest.
     std::shared_ptr<Walk> BeginWalk();
     void EndWalk();
-    /// Stores what the walk has written so far. If that fails, all of it is undone and the walk has failed.
+    /// Stores what the walk has written so far. If that fails, or if the file is not in place any more, all
+    /// of it is undone and the walk has failed.
     bool CommitWalk();
 
     /// Why the last failing step failed, one sentence.
@@ -53,10 +60,11 @@ public:
 private:
     bool PrepareToWrite(TableRows &table);
     QSqlQuery *Write(const QString &sql, const QVariantList &values);
-    void UndoWalk();
+    void UndoWalk(const QString &reason);
     bool Fail(const QString &reason);
 
     QString filePath;
+    FileIdentity identity; ///< of the file that was opened
     std::unique_ptr<SqliteConnection> connection;
     bool writable = false;
     DatabaseSchema schema;

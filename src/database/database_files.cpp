@@ -11,7 +11,7 @@ std::shared_ptr<DatabaseFile> DatabaseFiles::Open(const QString &path, SqliteCon
     std::erase_if(files, [](const auto &entry) { return entry.second.expired(); });
     const QString canonical = QFileInfo(path).canonicalFilePath();
     std::shared_ptr<DatabaseFile> file = files[canonical].lock();
-    if (!file) {
+    if (!file || !file->IsInPlace()) {
         file = OpenAnew(canonical, mode, failure);
     } else if (mode != SqliteConnection::Mode::ReadOnly && !file->MakeWritable()) {
         failure = file->Failure();

@@ -12,8 +12,8 @@ public:
     explicit DatabaseFiles(DatabaseSchema wantedTables = {}) : wanted(std::move(wantedTables)) {}
 
     /// The open file of this path, links followed; opens it if need be. A file that is open read-only becomes
-    /// writable for a control that writes. Nothing if the file is missing, refused or in use; `failure` then
-    /// says why.
+    /// writable for a control that writes. One that was replaced since is opened anew; who holds
+    /// the old one keeps it. Nothing if the file is missing, refused or in use; `failure` then says why.
     std::shared_ptr<DatabaseFile> Open(const QString &path, SqliteConnection::Mode mode, QString &failure);
 
 private:

@@ -2,18 +2,44 @@
 
 #include "database/sqlite_connection.h"
 #include "database/sqlite_file_check.h"
-#include "database/table_schema.h"
 #include "support/whole_file.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
 namespace {
+
+const QString notWritten = u"The file could not be written; the disk may be full or write-protected."_s;
+
+/// Brings a database back to its state before a write that was cut off, so that no journal is left; one whose
+/// database is gone is deleted. False if one is left, in use or beside a file that is no database.
+bool PlayBackJournal(const QString &path) {
+    if (!QFileInfo::exists(path))
+        QFile::remove(JournalOf(path));
+    if (HasJournal(path) && SqliteFileRefusal(path).isEmpty()) {
+        SqliteConnection connection(path, SqliteConnection::Mode::ReadWrite);
+        DatabaseSchema schema;
+        ReadSchema(connection, schema);
+    }
+    return !HasJournal(path);
+}
+
+/// A number that changes with each commit that another connection makes. Nothing if the file can't be read.
+std::optional<qint64> DataVersion(SqliteConnection &connection) {
+    QSqlQuery *query = connection.Execute(u"PRAGMA data_version"_s);
+    if (!query || !connection.Next(*query))
+        return {};
+    const qint64 version = query->value(0).toLongLong();
+    query->finish();
+    return version;
+}
 
 /// An empty file beside another one, where a database grows before it takes that one's place.
 class ScratchFile {
@@ -22,24 +48,18 @@ public:
         if (file.open())
             file.close();
     }
+    ~ScratchFile() { QFile::remove(JournalOf(Path())); }
+    Q_DISABLE_COPY_MOVE(ScratchFile)
 
     QString Path() const { return file.fileName(); }
 
     /// A journal beside the target belongs to the file that is there now: a new one must not come under it.
-    bool TakePlace() { return !HasJournal(targetPath) && CopyWholeFile(Path(), targetPath); }
+    bool TakePlace() { return PlayBackJournal(targetPath) && CopyWholeFile(Path(), targetPath); }
 
 private:
     QString targetPath;
     QTemporaryFile file;
 };
-
-bool PassesIntegrityCheck(SqliteConnection &connection) {
-    QSqlQuery *query = connection.Execute(u"PRAGMA integrity_check(1)"_s);
-    const bool passes = query && connection.Next(*query) && query->value(0).toString() == "ok"_L1;
-    if (query)
-        query->finish();
-    return passes;
-}
 
 bool IsSound(const QString &path) {
     if (!SqliteFileRefusal(path).isEmpty())
@@ -110,6 +130,26 @@ bool Rebuild(const QString &path, const QString &scratchPath) {
            to.Run(u"COMMIT"_s);
 }
 
+bool Compact(SqliteConnection &connection, const QString &destination) {
+    ScratchFile scratch(destination);
+    DatabaseSchema schema;
+    return ReadSchema(connection, schema).isEmpty() && PassesIntegrityCheck(connection) &&
+           connection.Run(u"VACUUM INTO ?"_s, {scratch.Path()}) && scratch.TakePlace();
+}
+
+/// Copies the bytes of a database while its lock keeps others from writing. Returns why that failed.
+QString CopyWhileLocked(const QString &source, const QString &copy) {
+    SqliteConnection connection(source, SqliteConnection::Mode::ReadWrite);
+    DatabaseSchema schema;
+    if (!connection.Run(u"BEGIN"_s))
+        return connection.Failure();
+    if (QString refusal = ReadSchema(connection, schema); !refusal.isEmpty())
+        return refusal;
+    if (!PassesIntegrityCheck(connection))
+        return connection.Failure().isEmpty() ? u"The database is damaged."_s : connection.Failure();
+    return CopyWholeFile(source, copy) ? QString() : notWritten;
+}
+
 } // namespace
 
 bool CreateDatabase(const QString &path, const QStringList &statements, const DatabaseFiller &fill) {
@@ -127,15 +167,34 @@ bool CompactDatabase(const QString &source, const QString &destination) {
     const QString path = QFileInfo(source).canonicalFilePath();
     if (!SqliteFileRefusal(path).isEmpty())
         return false;
+    SqliteConnection connection(path, SqliteConnection::Mode::ReadWrite);
+    return Compact(connection, destination);
+}
+
+bool CompactThroughBackup(const QString &path, const QString &backup, const DatabaseSchema &wanted) {
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    if (!SqliteFileRefusal(canonical).isEmpty())
+        return false;
+    SqliteConnection connection(canonical, SqliteConnection::Mode::ReadWrite);
+    const std::optional<qint64> version = DataVersion(connection);
+    DatabaseSchema schema;
+    if (!ReadSchema(connection, schema).isEmpty() || !SchemaDifference(schema, wanted).isEmpty())
+        return false;
+    // Whoever waits for the lock finds the file replaced, and is told so instead of writing into the old one.
+    return version && Compact(connection, backup) && connection.Run(u"BEGIN EXCLUSIVE"_s) &&
+           DataVersion(connection) == version && CopyWholeFile(backup, canonical);
+}
+
+QString CopyDatabase(const QString &source, const QString &destination, const DatabaseChange &change) {
+    const QString path = QFileInfo(source).canonicalFilePath();
+    if (QString refusal = SqliteFileRefusal(path); !refusal.isEmpty())
+        return refusal;
     ScratchFile scratch(destination);
-    {
-        SqliteConnection connection(path, SqliteConnection::Mode::ReadWrite);
-        DatabaseSchema schema;
-        if (!ReadSchema(connection, schema).isEmpty() ||
-            !connection.Run(u"VACUUM INTO ?"_s, {scratch.Path()}))
-            return false;
-    }
-    return scratch.TakePlace();
+    if (QString failure = CopyWhileLocked(path, scratch.Path()); !failure.isEmpty())
+        return failure;
+    if (QString failure = change ? change(scratch.Path()) : QString(); !failure.isEmpty())
+        return failure;
+    return scratch.TakePlace() ? QString() : notWritten;
 }
 
 bool RepairDatabase(const QString &path) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "database/table_schema.h"
+
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -17,6 +19,21 @@ bool CreateDatabase(const QString &path, const QStringList &statements, const Da
 /// Writes a compacted copy of a closed database under a new name, whole or not at all, replacing what is
 /// there. False if the source is no sound database or the copy could not be written.
 bool CompactDatabase(const QString &source, const QString &destination);
+
+/// Replaces a closed database by its compacted copy and leaves that copy beside it as `backup`. False, with
+/// the database as it was, if it isn't sound or holds other tables than the wanted ones, if either file could
+/// not be written, or if another program uses or changes the database. An unsound one never takes the place
+/// of the backup.
+bool CompactThroughBackup(const QString &path, const QString &backup, const DatabaseSchema &wanted);
+
+/// Changes the closed database of this path. Returns why that failed, one sentence, else an empty text.
+using DatabaseChange = std::function<QString(const QString &path)>;
+
+/// Replaces `destination` by a copy of `source`, byte for byte, or by what `change` made of one under another
+/// name, whole or not at all. No other program writes the source meanwhile, and no journal of the old file
+/// comes under the new one. Returns why that failed, one sentence, with `destination` as it was; else an
+/// empty text.
+QString CopyDatabase(const QString &source, const QString &destination, const DatabaseChange &change = {});
 
 /// Repairs a closed database in place: rows and indexes that can be read are kept, in their order. A sound
 /// one is left as it is. False, with the file untouched, if it can't be repaired.

@@ -13,24 +13,47 @@ namespace {
 // Short enough that a step which meets two locks, one behind the other, still ends within 200 ms.
 constexpr auto connectOptions = "QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=80"_L1;
 
-// Result codes of SQLite, as the driver hands them on.
-constexpr auto busyCode = "5"_L1;
-constexpr auto lockedCode = "6"_L1;
-constexpr auto notADatabaseCode = "26"_L1;
+// Result codes of SQLite, from "Result and Error Codes" of that project. The low byte names the kind.
+constexpr int kindOfCode = 0xff;
+constexpr int busyCode = 5;
+constexpr int lockedCode = 6;
+constexpr int readOnlyCode = 8;
+constexpr int movedCode = 1032; ///< of the kind read-only: the name leads to another file by now, or to none
+constexpr int inputOutputCode = 10;
+constexpr int corruptCode = 11;
+constexpr int fullCode = 13;
+constexpr int cantOpenCode = 14;
+constexpr int notADatabaseCode = 26;
 
 // As an address, so that the mode can be told: the driver itself would create a missing file.
 QString Address(const QString &path, SqliteConnection::Mode mode) {
     const auto access = mode == SqliteConnection::Mode::ReadOnly ? "?mode=ro"_L1 : "?mode=rw"_L1;
-    return QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded(QUrl::FullyEncoded)) + access;
+    return QString::fromLatin1(QUrl::fromLocalFile(QDir::cleanPath(path)).toEncoded(QUrl::FullyEncoded)) +
+           access;
 }
 
 QString Sentence(const QSqlError &error) {
-    const QString code = error.nativeErrorCode();
-    if (code == busyCode || code == lockedCode)
+    const int code = error.nativeErrorCode().toInt();
+    switch (code & kindOfCode) {
+    case busyCode:
+    case lockedCode:
         return u"The file is in use by another program."_s;
-    if (code == notADatabaseCode)
+    case readOnlyCode:
+        return code == movedCode ? u"The file was replaced or removed by another program."_s
+                                 : u"The file or its folder is write-protected."_s;
+    case inputOutputCode:
+        return u"The disk reports an error."_s;
+    case corruptCode:
+        return u"The database is damaged."_s;
+    case fullCode:
+        return u"The disk is full."_s;
+    case cantOpenCode:
+        return u"The file, or a journal beside it, can't be opened."_s;
+    case notADatabaseCode:
         return u"The file is no database."_s;
-    return u"The database reports: %1."_s.arg(error.databaseText());
+    default:
+        return u"The database reports: %1."_s.arg(error.databaseText());
+    }
 }
 
 } // namespace
@@ -73,7 +96,10 @@ void SqliteConnection::Open(const QString &name) {
 QSqlQuery *SqliteConnection::Prepared(const QString &sql) {
     if (const auto known = statements.find(sql); known != statements.end())
         return &known->second;
-    QSqlQuery query(QSqlDatabase::database(connectionName, false));
+    const QSqlDatabase database = QSqlDatabase::database(connectionName, false);
+    if (!database.isOpen())
+        return nullptr; // the failure of the opening stands
+    QSqlQuery query(database);
     query.setForwardOnly(true);
     if (!query.prepare(sql)) {
         Accept(query.lastError());
@@ -106,3 +132,11 @@ bool SqliteConnection::Accept(const QSqlError &error) {
 QString QuotedName(const QString &name) { return u'"' + QString(name).replace(u'"', "\"\""_L1) + u'"'; }
 
 } // namespace lanterra
+bool PassesIntegrityCheck(SqliteConnection &connection) {
+    QSqlQuery *query = connection.Execute(u"PRAGMA quick_check(1)"_s);
+    const bool passes = query && connection.Next(*query) && query->value(0).toString() == "ok"_L1;
+    if (query)
+        query->finish();
+    return passes;
+}
+

@@ -20,6 +20,7 @@ namespace {
 //  92   4 bytes  change counter for which the size is valid
 // All numbers are big-endian.
 constexpr qsizetype headerSize = 100;
+constexpr qint64 largestFile = qint64{1} << 30; ///< bytes
 constexpr QByteArrayView magic("SQLite format 3\0", 16);
 constexpr QByteArrayView payloadFractions("\x40\x20\x20", 3);
 constexpr char rollbackVersion = 1;
@@ -57,7 +58,11 @@ QString HeaderRefusal(const QByteArray &header) {
 
 } // namespace
 
-bool HasJournal(const QString &path) { return QFileInfo(path + "-journal"_L1).size() > 0; }
+QString UnreadableRefusal() { return u"The file can't be read."_s; }
+
+QString JournalOf(const QString &path) { return path + "-journal"_L1; }
+
+bool HasJournal(const QString &path) { return QFileInfo(JournalOf(path)).size() > 0; }
 
 QString SqliteFileRefusal(const QString &path) {
     // A pipe or device in its place would block the read.
@@ -67,10 +72,13 @@ QString SqliteFileRefusal(const QString &path) {
         return u"The database keeps its changes in a second file."_s;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return u"The file can't be read."_s;
+        return UnreadableRefusal();
     const QByteArray header = file.read(headerSize);
     if (QString refusal = HeaderRefusal(header); !refusal.isEmpty())
         return refusal;
+    // All rows of a table are held in memory, and no project comes near this size.
+    if (file.size() > largestFile)
+        return u"The database file is too large."_s;
     if (!HasJournal(path) && !HasAllPages(header, file.size()))
         return u"The database file is cut off."_s;
     return {};

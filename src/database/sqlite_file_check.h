@@ -14,6 +14,12 @@ namespace lanterra {
 /// with a connection inside a transaction.
 QString SqliteFileRefusal(const QString &path);
 
+/// The refusal of a file that is there but can't be read now, which says nothing of its content.
+QString UnreadableRefusal();
+
+/// The path of the rollback journal that belongs to a database file.
+QString JournalOf(const QString &path);
+
 /// Whether a rollback journal stands beside the database file, so that the file alone may not be whole.
 bool HasJournal(const QString &path);
 

@@ -39,7 +39,8 @@ void ReadSiteLists(Project &project, SiteDatabaseImport *import) {
         return;
     DataControl &own = project.database.Data2;
     DataControl &master = project.database.Data1;
-    EnsureRecordSource(own, u"Data"_s);
+    // A file in use is waited for once, when it is bound, and not for each of its tables.
+    const bool bound = own.IsOpen() && EnsureRecordSource(own, u"Data"_s);
     EnsureRecordSource(master, u"Data"_s);
     if (import && own.MoveFirst() && FirstRowVersion(master) > FirstRowVersion(own)) {
         import->ImportSiteDatabase();
@@ -48,8 +49,7 @@ void ReadSiteLists(Project &project, SiteDatabaseImport *import) {
     ReadSites(own, project.lists.List1);
     project.lists.List2.Clear();
     project.lists.List3.Clear();
-    // One file that is in use is waited for once and not for each of its tables.
-    if (own.IsOpen() && EnsureRecordSource(own, u"Categories"_s))
+    if (bound && EnsureRecordSource(own, u"Categories"_s))
         ReadDirectories(own, project.lists.List2);
 }
 

@@ -1,10 +1,12 @@
 #include "support/file_names.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
 #include <algorithm>
 #include <filesystem>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -77,6 +79,13 @@ bool IsSameFile(const QString &first, const QString &second) {
     std::error_code error;
     return std::filesystem::equivalent(QFileInfo(first).filesystemFilePath(),
                                        QFileInfo(second).filesystemFilePath(), error);
+}
+
+FileIdentity IdentityOf(const QString &path) {
+    struct stat status {};
+    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+        return {};
+    return {status.st_dev, status.st_ino};
 }
 
 } // namespace lanterra

@@ -34,3 +34,14 @@ bool CanBeFileName(const QString &name);
 bool IsSameFile(const QString &first, const QString &second);
 
 } // namespace lanterra
+/// Tells a file from another one that took its name. Kept by the file system while the file is open.
+struct FileIdentity {
+    quint64 device = 0;
+    quint64 number = 0;
+
+    bool operator==(const FileIdentity &) const = default;
+};
+
+/// The identity of the file that the path leads to, links followed; all zeros if there is none.
+FileIdentity IdentityOf(const QString &path);
+

@@ -51,6 +51,33 @@ TEST_F(MaintenanceTest, CompactionThatFailsLeavesTheOldCopy) {
     EXPECT_EQ(FilesLeft(), QStringList({copy, u"sites.rts"_s}));
 }
 
+TEST_F(MaintenanceTest, AnUnsoundOrUnknownDatabaseNeverTakesTheBackupsPlace) {
+    GivenNumberedRows(3000);
+    control.Close();
+    const DatabaseSchema wanted = SchemaOf({createSites});
+    const QStringList names = StoredNames();
+    EXPECT_TRUE(CompactThroughBackup(Path(), Path(copy), wanted));
+    EXPECT_EQ(StoredNames(), names);
+    const QByteArray backup = BytesOf(Path(copy));
+    EXPECT_FALSE(CompactThroughBackup(Path(), Path(copy), {}));
+    QByteArray damaged = BytesOf(Path());
+    damaged.replace(16384, 4096, QByteArray(4096, '\x55'));
+    WriteWholeFile(Path(), damaged);
+    EXPECT_FALSE(CompactThroughBackup(Path(), Path(copy), wanted));
+    EXPECT_TRUE(BytesOf(Path(copy)) == backup && BytesOf(Path()) == damaged);
+}
+
+TEST_F(MaintenanceTest, ACopyThatCanNotBeChangedAsWantedTakesNoPlace) {
+    WriteWholeFile(Path(copy), "old");
+    const QString reason = u"not today"_s;
+    EXPECT_EQ(CopyDatabase(Path(), Path(copy), [&](const QString &) { return reason; }), reason);
+    EXPECT_EQ(CopyDatabase(Path(u"missing"_s), Path(copy)), u"There is no such file."_s);
+    EXPECT_EQ(BytesOf(Path(copy)), QByteArray("old"));
+    EXPECT_EQ(CopyDatabase(Path(), Path(copy)), QString());
+    EXPECT_TRUE(BytesOf(Path(copy)) == BytesOf(Path()));
+    EXPECT_EQ(FilesLeft(), QStringList({copy, u"sites.rts"_s}));
+}
+
 TEST_F(MaintenanceTest, RepairKeepsTheRowsOnBothSidesOfTheDamage) {
     GivenNumberedRows(3000);
     control.Close();

@@ -93,11 +93,12 @@ QString IniSettingsStore::Get(const QString &section, const QString &key) const 
     return found == values.end() ? QString() : found->second;
 }
 
-bool IniSettingsStore::Set(const QString &section, const QString &key, const QString &value) {
+bool IniSettingsStore::SetAll(const QList<StoredSetting> &texts) {
     auto values = Read();
     if (!values)
         return false;
-    (*values)[{section, key}] = value;
+    for (const StoredSetting &text : texts)
+        (*values)[{text.section, text.key}] = text.value;
     return Write(*values);
 }
 

@@ -21,7 +21,7 @@ public:
     static QString DefaultPath();
 
     QString Get(const QString &section, const QString &key) const override;
-    bool Set(const QString &section, const QString &key, const QString &value) override;
+    bool SetAll(const QList<StoredSetting> &texts) override;
     bool DeleteSection(const QString &section) override;
 
 private:

@@ -9,13 +9,14 @@ enum class BoxIcon { None, Critical, Question, Exclamation, Information };
 enum class BoxButtons { Ok, YesNo };
 enum class BoxAnswer { Ok, Yes, No };
 
-/// One message box. `text` and `title` are shown as plain text, never as markup.
+/// One message box. `text`, `title` and `detail` are shown as plain text, never as markup.
 struct MessageBox {
     QString text;
     QString title;
     BoxIcon icon = BoxIcon::None;
     BoxButtons buttons = BoxButtons::Ok;
     BoxAnswer defaultAnswer = BoxAnswer::Ok; ///< the button that Return presses and that closing the box means
+    QString detail = {};                     ///< the reason, shown below the text; empty for none
 };
 
 /// One line asked of the user.

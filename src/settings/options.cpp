@@ -25,6 +25,13 @@ bool Options::Set(const Option &option, const QString &text) {
 
 bool Options::Set(const Option &option, int number) { return Set(option, QString::number(number)); }
 
+bool Options::SetAll(const QList<OptionText> &texts) {
+    QList<StoredSetting> stored;
+    for (const OptionText &each : texts)
+        stored.append({each.option.section.toString(), each.option.name.toString(), each.text});
+    return store.SetAll(stored);
+}
+
 bool Options::ForgetStartup() { return store.DeleteSection(startupSection.toString()); }
 
 } // namespace lanterra

@@ -7,6 +7,11 @@
 
 namespace lanterra {
 
+struct OptionText {
+    Option option;
+    QString text;
+};
+
 /// The stored options of this user. Nothing is kept here: each call goes to the store, which must outlive
 /// this.
 class Options {
@@ -22,6 +27,9 @@ public:
     /// False if the store could not take it; the old value is then still there.
     bool Set(const Option &option, const QString &text);
     bool Set(const Option &option, int number);
+
+    /// Stores all of them or none.
+    bool SetAll(const QList<OptionText> &texts);
 
     /// Deletes all options of the section "Startup", which forgets the last project.
     bool ForgetStartup();

@@ -1,9 +1,13 @@
 #include "settings/settings_form.h"
 
+#include "support/numbers.h"
+
+using namespace Qt::StringLiterals;
+
 namespace lanterra {
 
-SettingsForm::SettingsForm(Options &storedOptions, WindowSettings &window)
-    : options(storedOptions), windowSettings(window) {
+SettingsForm::SettingsForm(Options &storedOptions, WindowSettings &window, Dialogs &messageDialogs)
+    : options(storedOptions), windowSettings(window), dialogs(messageDialogs) {
     SetVisible(false);
 }
 
@@ -27,11 +31,12 @@ void SettingsForm::Load() {
 }
 
 void SettingsForm::FillFirstValues() {
+    QList<OptionText> texts{{option::optionsFilled, option::optionsFilled.firstValue.toString()}};
     for (const BoxOption &each : Boxes()) {
         each.box.SetValue(each.option.firstValue.toInt());
-        options.Set(each.option, each.box.Value());
+        texts.append({each.option, QString::number(each.box.Value())});
     }
-    options.Set(option::optionsFilled, option::optionsFilled.firstValue.toString());
+    options.SetAll(texts);
 }
 
 void SettingsForm::LoadBoxes() {
@@ -51,11 +56,13 @@ void SettingsForm::chkProxy_Click() {
 }
 
 void SettingsForm::cmdOK_Click() {
-    CheckProxy(chkProxy.Checked() && !Text1.Text().isEmpty());
+    CheckProxy(chkProxy.Checked() && !IsBlank(Text1.Text()));
     windowSettings.SetProxyInForce(chkProxy.Checked());
     emit ProxyConfirmed();
-    StoreBoxes();
+    const bool stored = StoreBoxes();
     SetVisible(false);
+    if (!stored)
+        dialogs.Show({u"The settings could not be saved. "_s, u"Error"_s, BoxIcon::Critical});
 }
 
 void SettingsForm::cmdCancel_Click() { SetVisible(false); }
@@ -65,13 +72,14 @@ void SettingsForm::CheckProxy(bool on) {
     chkProxy_Click();
 }
 
-void SettingsForm::StoreBoxes() {
+bool SettingsForm::StoreBoxes() {
+    QList<OptionText> texts = windowSettings.AllButProxy();
     for (const BoxOption &each : Boxes())
-        options.Set(each.option, each.box.Value());
-    windowSettings.StoreAllButProxy();
-    options.Set(option::useProxy, chkProxy.Value());
-    options.Set(option::proxyServer, Text1.Text());
-    options.Set(option::proxyPort, Text2.Text());
+        texts.append({each.option, QString::number(each.box.Value())});
+    texts.append({option::useProxy, QString::number(chkProxy.Value())});
+    texts.append({option::proxyServer, Text1.Text()});
+    texts.append({option::proxyPort, Text2.Text()});
+    return options.SetAll(texts);
 }
 
 } // namespace lanterra

@@ -3,6 +3,7 @@
 #include "controls/button.h"
 #include "controls/check_box.h"
 #include "controls/text_box.h"
+#include "ports/dialogs.h"
 #include "settings/window_settings.h"
 
 namespace lanterra {
@@ -13,8 +14,8 @@ class SettingsForm : public Control {
     Q_OBJECT
 
 public:
-    /// Both must outlive the form, which comes up hidden and empty.
-    SettingsForm(Options &storedOptions, WindowSettings &window);
+    /// All must outlive the form, which comes up hidden and empty.
+    SettingsForm(Options &storedOptions, WindowSettings &window, Dialogs &messageDialogs);
 
     /// Fills the boxes from the store. At the very first time the options get their first values, which are
     /// stored at once.
@@ -26,7 +27,8 @@ public:
 
     void chkProxy_Click();
 
-    /// Puts the boxes into force, stores them and hides the form. A proxy without a name is not kept.
+    /// Puts the boxes into force, stores them, all or none, and hides the form; tells if they could not be
+    /// stored. A proxy without a name is not kept.
     void cmdOK_Click();
 
     /// Hides the form. What was changed stays in the boxes and counts from its next use on, but isn't stored.
@@ -55,10 +57,11 @@ private:
     void FillFirstValues();
     void LoadBoxes();
     void CheckProxy(bool on);
-    void StoreBoxes();
+    bool StoreBoxes();
 
     Options &options;
     WindowSettings &windowSettings;
+    Dialogs &dialogs;
 };
 
 } // namespace lanterra

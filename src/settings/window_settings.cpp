@@ -27,22 +27,25 @@ bool WindowSettings::Load() {
     return true;
 }
 
-void WindowSettings::StoreWindowSettings() {
-    StoreAllButProxy();
-    Store(proxyValue);
+bool WindowSettings::StoreWindowSettings() {
+    QList<OptionText> texts = AllButProxy();
+    texts.append(Stored(proxyValue));
     if (!projectPath.isEmpty())
-        options.Set(option::lastProject, projectPath);
+        texts.append({option::lastProject, projectPath});
+    return options.SetAll(texts);
 }
 
-void WindowSettings::StoreAllButProxy() {
+QList<OptionText> WindowSettings::AllButProxy() const {
+    QList<OptionText> texts;
     for (std::size_t i = 0; i < values.size(); ++i) {
         if (i != proxyValue)
-            Store(i);
+            texts.append(Stored(i));
     }
+    return texts;
 }
 
-void WindowSettings::Store(std::size_t position) {
-    options.Set(option::windowValues[position], values[position]);
+OptionText WindowSettings::Stored(std::size_t position) const {
+    return {option::windowValues[position], QString::number(values[position])};
 }
 
 } // namespace lanterra

@@ -17,15 +17,15 @@ public:
     /// is false: nothing else of the window's settings is to be read then.
     bool Load();
 
-    /// Stores the five values, and the path if there is one.
-    void StoreWindowSettings();
+    /// Stores the five values, and the path if there is one. False if the store could not take them.
+    bool StoreWindowSettings();
 
-    /// Stores all values but the third, which reaches the store by StoreWindowSettings alone.
-    void StoreAllButProxy();
+    /// All values but the third, which reaches the store by StoreWindowSettings alone.
+    QList<OptionText> AllButProxy() const;
 
     void SetProxyInForce(bool on) { values[proxyValue] = on ? valueOn : valueOff; }
 
-    /// The value chh1 to chh5, 5 for off or 6 for on. `number` is 1 to 5.
+    /// The value chh1 to chh5, 5 for off or 6 for on. `number` is 1 to 5; any other throws std::out_of_range.
     int Value(int number) const { return values.at(static_cast<std::size_t>(number - 1)); }
 
 private:
@@ -33,7 +33,7 @@ private:
     static constexpr int valueOn = 6;            ///< stored
     static constexpr std::size_t proxyValue = 2; ///< position of the third value
 
-    void Store(std::size_t position);
+    OptionText Stored(std::size_t position) const;
 
     Options &options;
     const QString &projectPath;

@@ -14,9 +14,11 @@ public:
         const auto found = values.find({section, key});
         return found == values.end() ? QString() : found->second;
     }
-    bool Set(const QString &section, const QString &key, const QString &value) override {
-        if (!failing)
-            values[{section, key}] = value;
+    bool SetAll(const QList<StoredSetting> &texts) override {
+        for (const StoredSetting &text : texts) {
+            if (!failing)
+                values[{text.section, text.key}] = text.value;
+        }
         return !failing;
     }
     bool DeleteSection(const QString &section) override {

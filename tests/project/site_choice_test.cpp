@@ -80,7 +80,7 @@ TEST_F(SiteChoiceTest, ShowsAndStoresTheCategoryOfADirectory) {
     EXPECT_EQ(Choice(u"Altavia"_s), QString());
     EXPECT_EQ(Lists().List3.Items(), (QStringList{u"Arts"_s, u"Business Arts"_s}));
     Lists().List3.SetListIndex(1);
-    EXPECT_TRUE(Categories().List3_Click());
+    EXPECT_TRUE(Categories().ChooseCategory());
     EXPECT_EQ(Choice(u"Links"_s), QString());
     EXPECT_EQ(Lists().List3.ListCount(), 0); // its only category is the default, which isn't offered
 

@@ -1,4 +1,5 @@
 #include "settings/proxy_settings.h"
+#include "tests/fakes/fake_dialogs.h"
 #include "tests/fakes/fake_http_client.h"
 #include "tests/fakes/fake_settings_store.h"
 #include "tests/qt_printing.h"
@@ -26,7 +27,8 @@ protected:
     QString base;
     Options options{store};
     WindowSettings window{options, base};
-    SettingsForm form{options, window};
+    FakeDialogs dialogs;
+    SettingsForm form{options, window, dialogs};
     ProxySettings proxy{form};
     FakeHttpClient client;
 };
@@ -62,6 +64,14 @@ TEST_F(SettingsFormTest, CancelKeepsTheEditsForTheNextOk) {
     EXPECT_EQ(Stored(u"PSN"_s), QString());
     form.cmdOK_Click();
     EXPECT_EQ(Stored(u"PSN"_s), u"typed"_s);
+}
+
+TEST_F(SettingsFormTest, AStoreThatTakesNothingIsToldOnce) {
+    store.failing = true;
+    ConfirmProxy(u"proxy"_s);
+    ASSERT_EQ(dialogs.boxes.size(), 1U);
+    EXPECT_EQ(dialogs.boxes[0].text, u"The settings could not be saved. "_s);
+    EXPECT_TRUE(store.values.empty());
 }
 
 TEST_F(SettingsFormTest, TheThirdWindowValueAndTheProjectReachTheStoreOnlyAtExit) {

@@ -40,6 +40,8 @@ BehaviourEnd EndNamed(const QString &name) {
     return name == u"hold" ? BehaviourEnd::Hold : BehaviourEnd::Close;
 }
 
+} // namespace
+
 Behaviour MakeBehaviour(const QJsonObject &source) {
     Behaviour behaviour;
     behaviour.name = source["name"_L1].toString();
@@ -53,8 +55,6 @@ Behaviour MakeBehaviour(const QJsonObject &source) {
         behaviour.steps.append(MakeStep(step));
     return behaviour;
 }
-
-} // namespace
 
 BehaviourTable::BehaviourTable() {
     const QJsonArray table = ReadJsonResource(u":/park/behaviours.json"_s).array();

@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+class QJsonObject;
+
 namespace lanterra {
 
 /// One step of a scripted behaviour: bytes to send, and the time to let pass.
@@ -27,6 +29,9 @@ struct Behaviour {
     BehaviourEnd end = BehaviourEnd::Close;
     bool early = false; ///< begins as soon as the request line is there
 };
+
+/// Makes a behaviour of a row of a table; behaviour.cpp tells its form.
+Behaviour MakeBehaviour(const QJsonObject &source);
 
 /// The behaviours of the table that is built into the program, in its order.
 class BehaviourTable {

@@ -1,6 +1,7 @@
 #include "park/behaviour_player.h"
 
 #include "park/socket_endings.h"
+#include "park/socket_output.h"
 
 #include <QTimerEvent>
 
@@ -16,8 +17,7 @@ constexpr int longestLife =
 
 BehaviourPlayer::BehaviourPlayer(const Behaviour &behaviour, QTcpSocket &socket)
     : script(behaviour), peer(socket) {
-    // Queued, because a flush reports its bytes from inside the write that is under way here.
-    connect(&peer, &QTcpSocket::bytesWritten, this, &BehaviourPlayer::Continue, Qt::QueuedConnection);
+    WhenBytesAreSent(peer, this, [this] { Continue(); });
 }
 
 void BehaviourPlayer::Start() {
@@ -47,7 +47,7 @@ void BehaviourPlayer::Continue() {
 
 bool BehaviourPlayer::Play(const BehaviourStep &step) {
     while (sentOfStep < step.total) {
-        if (peer.bytesToWrite() > sendAheadLimit)
+        if (UnsentBytes(peer) > sendAheadLimit)
             return false;
         WriteBlock(step);
         if (step.pause > 0)

@@ -39,7 +39,7 @@ HttpAnswer Park::Answer(const HttpRequest &request) {
         return PageAnswer(
             parkPages.ReceivedPage(received, ValueOf(ParseFormFields(request.query), u"page"_s).toInt()));
     if (request.path == "/behave/")
-        return PageAnswer(parkPages.BehaviourPage(behaviours));
+        return PageAnswer(parkPages.BehaviourPage(behaviours, gates, openGates));
     if (request.path == "/counter/first" || request.path == "/counter/later")
         return Count(request);
     return Message(u"no-such-page"_s);

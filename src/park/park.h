@@ -2,6 +2,7 @@
 
 #include "park/answer_table.h"
 #include "park/behaviour.h"
+#include "park/gate.h"
 #include "park/http_message.h"
 #include "park/park_pages.h"
 #include "park/received_log.h"
@@ -26,6 +27,9 @@ public:
     const Behaviour *BehaviourAt(const QByteArray &path) const;
     const Behaviour *BehaviourNamed(const QString &name) const { return behaviours.Find(name); }
 
+    /// Has the page of the behaviours show the ports of these gates.
+    void SetOpenGates(const QList<OpenGate> &nowOpen) { openGates = nowOpen; }
+
     const ReceivedLog &Received() const { return received; }
 
 private:
@@ -41,6 +45,8 @@ private:
     SiteTable sites;
     AnswerTable answers;
     BehaviourTable behaviours;
+    GateTable gates;
+    QList<OpenGate> openGates;
     SitePages sitePages;
     ParkPages parkPages;
     ReceivedLog received;

@@ -1,6 +1,7 @@
 #include "park/park_connection.h"
 
 #include "park/socket_endings.h"
+#include "park/socket_output.h"
 
 #include <QTimerEvent>
 
@@ -14,24 +15,19 @@ constexpr qint64 readAhead = 65'536; // bytes that a peer may send while it is b
 
 } // namespace
 
-ParkConnection::ParkConnection(qintptr descriptor, Park &practicePark, AccessLog &accessLog, int latency,
-                               QObject *parent)
-    : QObject(parent), park(practicePark), log(accessLog), latencyMs(latency) {
-    socket.setReadBufferSize(readAhead);
-    connect(&socket, &QTcpSocket::readyRead, this, &ParkConnection::Receive);
-    // Queued, because a flush reports its bytes from inside the answer that is under way here.
-    connect(&socket, &QTcpSocket::bytesWritten, this, &ParkConnection::ReadNext, Qt::QueuedConnection);
-    connect(&socket, &QTcpSocket::disconnected, this, &ParkConnection::deleteLater);
-    if (!socket.setSocketDescriptor(descriptor)) {
-        deleteLater();
-        return;
-    }
-    socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+ParkConnection::ParkConnection(std::unique_ptr<QTcpSocket> openSocket, Park &practicePark,
+                               AccessLog &accessLog, int latency, QObject *parent)
+    : QObject(parent), socket(std::move(openSocket)), park(practicePark), log(accessLog), latencyMs(latency) {
+    socket->setReadBufferSize(readAhead);
+    connect(socket.get(), &QTcpSocket::readyRead, this, &ParkConnection::Receive);
+    WhenBytesAreSent(*socket, this, [this] { ReadNext(); });
+    connect(socket.get(), &QTcpSocket::disconnected, this, &ParkConnection::deleteLater);
+    socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     timer.start(patience, Qt::CoarseTimer, this);
 }
 
 ParkConnection::~ParkConnection() {
-    socket.disconnect(this);
+    socket->disconnect(this);
     if (player != nullptr)
         log.Write(request.method, request.path, 0, player->BytesSent());
 }
@@ -45,19 +41,19 @@ void ParkConnection::timerEvent(QTimerEvent *event) {
     else if (phase == Phase::Reading && reader.HasBegun())
         BeginAnswer(park.Refuse(408));
     else
-        socket.abort();
+        socket->abort();
 }
 
 void ParkConnection::Receive() {
     if (phase == Phase::Reading)
-        Read(socket.readAll());
+        Read(socket->readAll());
     else if (phase == Phase::Leaving || player != nullptr)
-        socket.skip(socket.bytesAvailable());
+        socket->skip(socket->bytesAvailable());
 }
 
 // An answer that the peer doesn't take holds its next requests back; else they would pile up answers here.
 void ParkConnection::ReadNext() {
-    if (phase != Phase::Sending || socket.bytesToWrite() > 0)
+    if (phase != Phase::Sending || UnsentBytes(*socket) > 0)
         return;
     phase = Phase::Reading;
     timer.start(patience, Qt::CoarseTimer, this);
@@ -96,14 +92,14 @@ void ParkConnection::SendAnswer() {
         return Play(answer.behaviour);
     const QByteArray bytes = AnswerBytes(request, answer);
     log.Write(request.method, request.path, answer.status, bytes.size());
-    socket.write(bytes);
+    socket->write(bytes);
     Finish();
 }
 
 void ParkConnection::Play(const QString &behaviourName) {
     const Behaviour *behaviour = park.BehaviourNamed(behaviourName);
     Q_ASSERT(behaviour != nullptr);
-    player = std::make_unique<BehaviourPlayer>(*behaviour, socket);
+    player = std::make_unique<BehaviourPlayer>(*behaviour, *socket);
     player->Start();
 }
 
@@ -112,13 +108,13 @@ void ParkConnection::Finish() {
     timer.start(patience, Qt::CoarseTimer, this);
     phase = KeepsAlive(request, answer) ? Phase::Sending : Phase::Leaving;
     if (phase == Phase::Sending) {
-        socket.flush();
+        socket->flush();
         return;
     }
     if (answer.status < 400)
-        return socket.disconnectFromHost();
+        return socket->disconnectFromHost();
     timer.start(drainTime, Qt::CoarseTimer, this);
-    EndSending(socket);
+    EndSending(*socket);
 }
 
 } // namespace lanterra

@@ -20,9 +20,10 @@ class ParkConnection : public QObject {
     Q_OBJECT
 
 public:
-    /// `practicePark` and `accessLog` must outlive the connection. `latency` is in milliseconds.
-    ParkConnection(qintptr descriptor, Park &practicePark, AccessLog &accessLog, int latency,
-                   QObject *parent);
+    /// `openSocket` is connected, or under its TLS handshake. `practicePark` and `accessLog` must outlive the
+    /// connection. `latency` is in milliseconds.
+    ParkConnection(std::unique_ptr<QTcpSocket> openSocket, Park &practicePark, AccessLog &accessLog,
+                   int latency, QObject *parent);
     ~ParkConnection() override;
     Q_DISABLE_COPY_MOVE(ParkConnection)
 
@@ -40,7 +41,7 @@ private:
     void Play(const QString &behaviourName);
     void Finish();
 
-    QTcpSocket socket;
+    const std::unique_ptr<QTcpSocket> socket;
     Park &park;
     AccessLog &log;
     int latencyMs;

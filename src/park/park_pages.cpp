@@ -1,5 +1,7 @@
 #include "park/park_pages.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
@@ -118,16 +120,40 @@ Html ParkPages::PageLinks(int page, int pageCount) const {
     return templates.Fill(u"page-links"_s, {{u"links", links}});
 }
 
-QByteArray ParkPages::BehaviourPage(const BehaviourTable &behaviours) const {
+QByteArray ParkPages::BehaviourPage(const BehaviourTable &behaviours, const GateTable &gates,
+                                    const QList<OpenGate> &openGates) const {
     Html rows;
     for (const Behaviour &row : behaviours.Rows())
         rows += templates.Fill(u"behaviour"_s, {{u"name", Html::Text(row.name)},
                                                 {u"what", Html::Text(row.what)},
                                                 {u"outcome", Html::Text(row.outcome)},
                                                 {u"disk", Html::Text(row.disk)}});
+    Html gateRows;
+    for (const Gate &gate : gates.Rows())
+        gateRows += GateRows(gate, openGates);
     return Frame(u"Behaviours"_s,
                  u"What a server can do to a client, byte for byte, and what a good client makes of it."_s,
-                 templates.Fill(u"behaviours"_s, {{u"rows", rows}}));
+                 templates.Fill(u"behaviours"_s, {{u"rows", rows}, {u"gates", gateRows}}));
+}
+
+// One row a case, with a link where a browser can follow it.
+Html ParkPages::GateRows(const Gate &gate, const QList<OpenGate> &openGates) const {
+    const auto open = std::find_if(openGates.begin(), openGates.end(),
+                                   [&gate](const OpenGate &row) { return row.gate.name == gate.name; });
+    Html rows;
+    for (const GateCase &row : gate.cases) {
+        const QString page = u"/behave/"_s + row.page;
+        Html where = Html::Text(row.scheme + u": "_s + page);
+        if (open != openGates.end() && gate.group == Gate::Group::Tls)
+            where = templates.Fill(u"gate-link"_s, {{u"address", Html::Text(open->AddressOf(row))}});
+        rows += templates.Fill(u"gate"_s, {{u"name", Html::Text(gate.name)},
+                                           {u"port", open == openGates.end() ? Html() : Number(open->port)},
+                                           {u"where", where},
+                                           {u"what", Html::Text(gate.what)},
+                                           {u"outcome", Html::Text(row.outcome)},
+                                           {u"disk", Html::Text(row.disk)}});
+    }
+    return rows;
 }
 
 QByteArray ParkPages::MessagePage(const AnswerText &answer) const {

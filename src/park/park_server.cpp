@@ -8,24 +8,16 @@ namespace lanterra {
 
 namespace {
 
-constexpr int backlog = 1024;
-// Below the usual limit of 1,024 open files of a process. What comes beyond is closed at once.
-constexpr qsizetype connectionLimit = 900;
-constexpr int retryAfter = 100; // milliseconds
+// Below the usual limit of 1,024 open files of a process.
+constexpr qsizetype mostConnections = 900;
 
 } // namespace
 
-ParkServer::ParkServer(int latency, AccessLog &accessLog) : latencyMs(latency), log(accessLog) {
-    setListenBacklogSize(backlog);
-    // A process out of file descriptors makes QTcpServer stop accepting for good.
-    acceptRetry.setSingleShot(true);
-    acceptRetry.setInterval(retryAfter);
-    connect(this, &QTcpServer::acceptError, &acceptRetry, [this] { acceptRetry.start(); });
-    connect(&acceptRetry, &QTimer::timeout, this, &QTcpServer::resumeAccepting);
-}
+ParkServer::ParkServer(int latency, AccessLog &accessLog)
+    : LoopbackServer(mostConnections), latencyMs(latency), log(accessLog) {}
 
 bool ParkServer::Start(quint16 port) {
-    if (!listen(QHostAddress::LocalHost, port))
+    if (!ListenOn(port))
         return false;
     park = std::make_unique<Park>(Origin());
     return true;
@@ -33,13 +25,10 @@ bool ParkServer::Start(quint16 port) {
 
 QString ParkServer::Origin() const { return u"http://127.0.0.1:%1"_s.arg(serverPort()); }
 
-void ParkServer::incomingConnection(qintptr descriptor) {
-    if (children().size() < connectionLimit) {
-        new ParkConnection(descriptor, *park, log, latencyMs, this);
-        return;
-    }
-    QTcpSocket closedAtOnce;
-    closedAtOnce.setSocketDescriptor(descriptor);
+void ParkServer::Serve(qintptr descriptor) {
+    auto socket = std::make_unique<QTcpSocket>();
+    if (socket->setSocketDescriptor(descriptor))
+        new ParkConnection(std::move(socket), *park, log, latencyMs, this);
 }
 
 } // namespace lanterra

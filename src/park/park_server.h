@@ -1,17 +1,15 @@
 #pragma once
 
 #include "park/access_log.h"
+#include "park/loopback_server.h"
 #include "park/park.h"
-
-#include <QTcpServer>
-#include <QTimer>
 
 #include <memory>
 
 namespace lanterra {
 
 /// The practice web on 127.0.0.1, on one thread.
-class ParkServer : public QTcpServer {
+class ParkServer : public LoopbackServer {
     Q_OBJECT
 
 public:
@@ -25,16 +23,15 @@ public:
     /// "http://127.0.0.1:PORT", once it listens.
     QString Origin() const;
 
-    /// What was served so far; null until Start has succeeded.
-    const Park *Content() const { return park.get(); }
+    /// What is served; null until Start has succeeded.
+    Park *Content() const { return park.get(); }
 
 protected:
-    void incomingConnection(qintptr descriptor) override;
+    void Serve(qintptr descriptor) override;
 
 private:
     int latencyMs;
     AccessLog &log;
-    QTimer acceptRetry;
     std::unique_ptr<Park> park;
 };
 

@@ -1,5 +1,7 @@
 #include "park/socket_endings.h"
 
+#include <QSslSocket>
+
 #include <sys/socket.h>
 
 namespace lanterra {
@@ -11,6 +13,8 @@ void ResetConnection(QTcpSocket &socket) {
 }
 
 void EndSending(QTcpSocket &socket) {
+    if (qobject_cast<QSslSocket *>(&socket) != nullptr)
+        return socket.disconnectFromHost();
     socket.flush();
     ::shutdown(static_cast<int>(socket.socketDescriptor()), SHUT_WR);
 }

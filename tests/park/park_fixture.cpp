@@ -21,12 +21,12 @@ bool RunUntil(const std::function<bool()> &condition) {
     return true;
 }
 
-RawPeer::RawPeer(const ParkServer &server) {
+RawPeer::RawPeer(quint16 port) {
     QObject::connect(&socket, &QTcpSocket::readyRead, &socket, [this] {
         if (socket.readBufferSize() == 0)
             heard += socket.readAll();
     });
-    socket.connectToHost(QHostAddress::LocalHost, server.serverPort());
+    socket.connectToHost(QHostAddress::LocalHost, port);
 }
 
 RawPeer &RawPeer::Says(const QByteArray &bytes) {

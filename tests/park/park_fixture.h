@@ -17,7 +17,8 @@ bool RunUntil(const std::function<bool()> &condition);
 /// A peer of the practice web that says what it is told, byte for byte.
 class RawPeer {
 public:
-    explicit RawPeer(const ParkServer &server);
+    explicit RawPeer(quint16 port);
+    explicit RawPeer(const ParkServer &server) : RawPeer(server.serverPort()) {}
 
     RawPeer &Says(const QByteArray &bytes);
     /// All that came until the server closed; what came so far if it doesn't.

@@ -1,3 +1,4 @@
+#include "park/park_gates.h"
 #include "park/park_options.h"
 #include "park/park_server.h"
 
@@ -19,16 +20,25 @@ int Complain(int exitCode, const QString &sentence) {
     return exitCode;
 }
 
-void ListBehaviours() {
-    const BehaviourTable table;
-    for (const Behaviour &row : table.Rows())
-        Print(stdout, u"%1  %2\n"_s.arg(row.name, -20).arg(row.what));
+void List() {
+    const BehaviourTable behaviours;
+    const GateTable gates;
+    for (const Behaviour &row : behaviours.Rows())
+        Print(stdout, u"%1  %2\n"_s.arg(row.name, -22).arg(row.what));
+    for (const Gate &row : gates.Rows())
+        Print(stdout, u"%1  %2\n"_s.arg(row.name, -22).arg(row.what));
 }
 
 QString ReasonNotToListen(const ParkServer &server, quint16 port) {
     if (server.serverError() == QAbstractSocket::AddressInUseError)
         return u"port %1 is in use; choose another with --port N, or any free one with --port 0"_s.arg(port);
     return u"can't listen on port %1: %2"_s.arg(port).arg(server.errorString());
+}
+
+bool OpenGates(ParkGates &gates, const ParkOptions &options) {
+    if (options.tlsPort && !gates.OpenTls(*options.tlsPort, options.certificateFolder))
+        return false;
+    return !options.proxyPort || gates.OpenProxies(*options.proxyPort);
 }
 
 int Serve(const QCoreApplication &application, const ParkOptions &options) {
@@ -38,7 +48,12 @@ int Serve(const QCoreApplication &application, const ParkOptions &options) {
     ParkServer server(options.latency, log);
     if (!server.Start(options.port))
         return Complain(failed, ReasonNotToListen(server, options.port));
+    ParkGates gates(*server.Content(), server.serverPort(), log, options.latency);
+    if (!OpenGates(gates, options))
+        return Complain(failed, gates.ErrorText());
     Print(stdout, server.Origin() + u"/\n"_s);
+    for (const OpenGate &row : gates.Open())
+        Print(stdout, u"127.0.0.1:%1  %2\n"_s.arg(row.port).arg(row.gate.name));
     return application.exec();
 }
 
@@ -51,7 +66,7 @@ int main(int argc, char **argv) {
     case ParkOptions::Task::Serve:
         return Serve(application, options);
     case ParkOptions::Task::List:
-        ListBehaviours();
+        List();
         return 0;
     case ParkOptions::Task::Help:
     case ParkOptions::Task::Version:

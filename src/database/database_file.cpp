@@ -56,15 +56,15 @@ bool DatabaseFile::ReadTables(const DatabaseSchema &wanted) {
     QString refusal = ReadSchema(*connection, schema);
     if (refusal.isEmpty() && !wanted.isEmpty())
         refusal = SchemaDifference(schema, wanted);
-    return refusal.isEmpty() || Fail(refusal);
-}
     if (refusal.isEmpty() && !PassesIntegrityCheck(*connection))
         refusal = connection->Failure().isEmpty() ? u"The database is damaged."_s : connection->Failure();
+    return refusal.isEmpty() || Fail(refusal);
+}
+
+bool DatabaseFile::IsInPlace() const { return IdentityOf(filePath) == identity; }
 
 bool DatabaseFile::MakeWritable() {
     if (writable)
-bool DatabaseFile::IsInPlace() const { return IdentityOf(filePath) == identity; }
-
         return true;
     auto other = std::make_unique<SqliteConnection>(filePath, SqliteConnection::Mode::ReadWrite);
     if (!other->Failure().isEmpty())

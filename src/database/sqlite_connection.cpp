@@ -129,9 +129,6 @@ bool SqliteConnection::Accept(const QSqlError &error) {
     return failure.isEmpty();
 }
 
-QString QuotedName(const QString &name) { return u'"' + QString(name).replace(u'"', "\"\""_L1) + u'"'; }
-
-} // namespace lanterra
 bool PassesIntegrityCheck(SqliteConnection &connection) {
     QSqlQuery *query = connection.Execute(u"PRAGMA quick_check(1)"_s);
     const bool passes = query && connection.Next(*query) && query->value(0).toString() == "ok"_L1;
@@ -140,3 +137,6 @@ bool PassesIntegrityCheck(SqliteConnection &connection) {
     return passes;
 }
 
+QString QuotedName(const QString &name) { return u'"' + QString(name).replace(u'"', "\"\""_L1) + u'"'; }
+
+} // namespace lanterra

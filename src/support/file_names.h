@@ -33,7 +33,6 @@ bool CanBeFileName(const QString &name);
 /// Whether two paths name one existing file, links followed.
 bool IsSameFile(const QString &first, const QString &second);
 
-} // namespace lanterra
 /// Tells a file from another one that took its name. Kept by the file system while the file is open.
 struct FileIdentity {
     quint64 device = 0;
@@ -45,3 +44,4 @@ struct FileIdentity {
 /// The identity of the file that the path leads to, links followed; all zeros if there is none.
 FileIdentity IdentityOf(const QString &path);
 
+} // namespace lanterra

@@ -68,7 +68,7 @@ QString PathToFileUrl(const QString &path) {
 }
 
 bool CanBeFileName(const QString &name) {
-    if (name.isEmpty() || name == u"." || name == u"..")
+    if (name.isEmpty() || name == u"." || name == u".." || !name.isValidUtf16())
         return false;
     return std::none_of(name.cbegin(), name.cend(), [](QChar character) {
         return forbiddenCharacters.contains(character) || character.category() == QChar::Other_Control;

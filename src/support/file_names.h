@@ -27,7 +27,8 @@ QString RemoveChars(const QString &text, const QString &replacement = {}, const 
 QString PathToFileUrl(const QString &path);
 
 /// Whether a file of this name can exist on every platform: not empty, not "." or "..", and without
-/// / \ : * ? " < > | and control characters. What keeps names out of a database inside their folder.
+/// / \ : * ? " < > |, control characters and halves of surrogate pairs. What keeps names out of a database
+/// inside their folder.
 bool CanBeFileName(const QString &name);
 
 /// Whether two paths name one existing file, links followed.

@@ -55,6 +55,6 @@ TEST(FileNamesTest, RefusesNamesThatSomePlatformCannotHold) {
     for (const QStringView name : {u"Alta Vista", u"a.b", u"...", u"é", u"100%"})
         EXPECT_TRUE(CanBeFileName(name.toString())) << name.toString().toStdString();
     for (const QStringView name : {u"", u".", u"..", u"../x", u"a\\b", u"C:", u"a*", u"a?", u"\"a\"", u"<a",
-                                   u"a>", u"a|b", u"a\nb", u"a\u007F"})
+                                   u"a>", u"a|b", u"a\nb", u"a\u007F", u"half \xD83D"})
         EXPECT_FALSE(CanBeFileName(name.toString())) << name.toString().toStdString();
 }

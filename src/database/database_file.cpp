@@ -1,5 +1,7 @@
 #include "database/database_file.h"
 
+#include "database/stored_text.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -37,7 +39,7 @@ TableRows::Row RowOf(const QSqlQuery &query, qsizetype fieldCount) {
     TableRows::Row row{query.value(0).toLongLong(), {}};
     row.values.reserve(fieldCount);
     for (qsizetype field = 0; field < fieldCount; ++field) {
-        const QVariant value = query.value(static_cast<int>(field) + 1);
+        const QVariant value = FromStoredForm(query.value(static_cast<int>(field) + 1));
         row.values.append(value.isNull() ? QVariant() : value);
     }
     return row;

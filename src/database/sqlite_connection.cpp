@@ -1,5 +1,7 @@
 #include "database/sqlite_connection.h"
 
+#include "database/stored_text.h"
+
 #include <QSqlError>
 #include <QUrl>
 #include <QUuid>
@@ -113,7 +115,7 @@ QSqlQuery *SqliteConnection::Execute(const QString &sql, const QVariantList &val
     if (!query)
         return nullptr;
     for (qsizetype place = 0; place < values.size(); ++place)
-        query->bindValue(static_cast<int>(place), values[place]);
+        query->bindValue(static_cast<int>(place), StoredForm(values[place]));
     query->exec();
     return Accept(query->lastError()) ? query : nullptr;
 }

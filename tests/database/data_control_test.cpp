@@ -47,6 +47,12 @@ TEST_F(DataControlTest, ReadsEveryTypeAsTextNumberAndBoolean) {
     EXPECT_FALSE(control.IsNull(nameField));
 }
 
+TEST_F(DataControlTest, TextsThatUtf8CannotHoldComeBack) {
+    const QStringList texts{u"\xD83Dq"_s, u"q\xDE00"_s, u"\xFEFFq"_s, u"\xFFFEq"_s, u"q\xFFFF"_s, u"a\0b"_s};
+    GivenRows(texts);
+    EXPECT_EQ(StoredNames(), texts);
+}
+
 TEST_F(DataControlTest, ARowWithoutUpdateReadsAsSetAndIsDroppedByTheNextMove) {
     GivenRows({u"Alta"_s});
     control.AddNew();

@@ -14,17 +14,17 @@ namespace {
 QString EncodeForeign(const QString &text) {
     QString encoded;
     for (const char32_t character : text.toUcs4()) {
-        const QString one = QString::fromUcs4(&character, 1);
-        encoded += CodePage::Holds(character) ? one : QString::fromLatin1(one.toUtf8().toPercentEncoding());
+        if (CodePage::Holds(character)) // all of the page lies in the first plane
+            encoded += QChar(static_cast<char16_t>(character));
+        else
+            encoded += QString::fromLatin1(QString::fromUcs4(&character, 1).toUtf8().toPercentEncoding());
     }
     return encoded;
 }
 
 } // namespace
 
-QString ReportLink(const QString &path) {
-    return EncodeForeign(PathToFileUrl(path));
-}
+QString ReportLink(const QString &path) { return EncodeForeign(PathToFileUrl(path)); }
 
 QString ReportFolderPath(const QString &folder) {
     QString path = QString(folder).replace(u'\\', u'/');

@@ -49,6 +49,12 @@ TEST_F(SiteSourceTest, ReadsBackWhatItWrites) {
     EXPECT_EQ(reading.source, source);
 }
 
+TEST_F(SiteSourceTest, AByteOrderMarkInFrontOfATextComesBack) {
+    const QString marked = u"\xFEFF text"_s;
+    const SiteSource source{1, {{marked, marked, marked, marked, marked, {marked, marked}}}};
+    EXPECT_EQ(Read(SiteSourceText(source).toUtf8()).source, source);
+}
+
 TEST_F(SiteSourceTest, TellsTheRowAndTheReasonOfEachFault) {
     EXPECT_EQ(
         FindingsOf(R"({"version": 1.5, "sites": [

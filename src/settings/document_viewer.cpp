@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 namespace lanterra {
 
 DocumentViewer::DocumentViewer(const TextBox &path, DocumentOpener &documentOpener, Dialogs &messageBoxes)
-    : BrowserPath(path), opener(documentOpener), dialogs(messageBoxes) {}
+    : browserPath(path), opener(documentOpener), dialogs(messageBoxes) {}
 
 void DocumentViewer::OpenDocument(const QString &document) {
     if (Open(document) != OpenResult::NoApplication)
@@ -18,7 +18,7 @@ void DocumentViewer::OpenDocument(const QString &document) {
 }
 
 OpenResult DocumentViewer::Open(const QString &document) {
-    const QString browser = BrowserPath.Text().trimmed();
+    const QString browser = browserPath.Text().trimmed();
     if (FileExists(browser))
         return opener.Start(browser, {document});
     QStringList words = QProcess::splitCommand(browser);

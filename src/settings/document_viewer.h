@@ -20,7 +20,7 @@ public:
 private:
     OpenResult Open(const QString &document);
 
-    const TextBox &BrowserPath;
+    const TextBox &browserPath;
     DocumentOpener &opener;
     Dialogs &dialogs;
 };

@@ -26,6 +26,7 @@ public:
     };
 
     ChannelBank(const Parts &theParts, const ClientFactory &makeClient);
+    ~ChannelBank() = default;
     Q_DISABLE_COPY_MOVE(ChannelBank)
 
     /// `number` is 1 to 5; any other throws std::out_of_range.

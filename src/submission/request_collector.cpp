@@ -67,7 +67,7 @@ QString RequestCollector::data_proveri_selektovane_kategorije(const QString &sel
     TableWalk directories(table, u"Categories"_s);
     const int rows = directories.RowCount();
     for (int row = 0; row < rows && directories.GoTo(row) && !queue.Closing(); ++row) {
-        const QString name = table.Text(u"Name"_s);
+        QString name = table.Text(u"Name"_s);
         // A category that was never written (Null) passes; only one that is the empty text is missing.
         const bool missing = !table.IsNull(u"Selected"_s) && table.Text(u"Selected"_s).isEmpty();
         if (missing && selectedNames.contains(name, Qt::CaseInsensitive)) {

@@ -14,6 +14,14 @@ const QString separator = u" & "_s;
 const QString inner = u"\" & %1 & \""_s; ///< a word between two literals
 const QString last = u"\" & %1"_s;       ///< a word at the end
 
+bool StandsInTemplate(QStringView query, QStringView word) {
+    for (qsizetype at = query.indexOf(separator); at >= 0; at = query.indexOf(separator, at + 1)) {
+        if (query.mid(at + separator.size()).startsWith(word, Qt::CaseInsensitive))
+            return true;
+    }
+    return false;
+}
+
 void Replace(QString &query, const QString &shape, const QString &word, const QString &value) {
     query.replace(shape.arg(word), value, Qt::CaseInsensitive);
 }
@@ -55,19 +63,23 @@ RequestTemplate::RequestTemplate(const ProjectRecord &record) {
 
 QString RequestTemplate::Expand(QString query, const std::function<QString()> &category) const {
     const QString categoryWord = u"CCCAAATTT"_s;
-    for (const QString &shape : {inner, last}) {
-        if (query.contains(shape.arg(categoryWord), Qt::CaseInsensitive))
-            Replace(query, shape, categoryWord, category());
+    if (StandsInTemplate(query, categoryWord)) {
+        for (const QString &shape : {inner, last}) {
+            if (query.contains(shape.arg(categoryWord), Qt::CaseInsensitive))
+                Replace(query, shape, categoryWord, category());
+        }
     }
-    // Words that stand nowhere behind a separator can be passed over; that spares most of the searches.
+    // Words that stand nowhere behind a separator can be passed over, which spares most of the searches.
     std::vector<const Word *> present;
     for (const Word &word : words) {
-        if (query.contains(separator + word.name, Qt::CaseInsensitive))
+        if (StandsInTemplate(query, word.name))
             present.push_back(&word);
     }
-    for (const QString &shape : {inner, last}) {
-        for (const Word *word : present)
-            Replace(query, shape, word->name, word->value);
+    for (const Word *word : present)
+        Replace(query, inner, word->name, word->value);
+    for (const Word *word : present) {
+        if (StandsInTemplate(query, word->name))
+            Replace(query, last, word->name, word->value);
     }
     query.remove(u"\" & \""_s); // two literals side by side
     return query.remove(u'"');

@@ -71,7 +71,7 @@ QString ResponseAnalysis::AnalyseResponseHeader(QString text) {
         return verdict;
     }
     // "Error: No redirection URL" is not handed on: such an answer is judged by its other lines.
-    if (const QString redirection = ReadRedirection(text); redirection == "Redirection"_L1)
+    if (QString redirection = ReadRedirection(text); redirection == "Redirection"_L1)
         return redirection;
     lastModified = LabelledValue(text, "Last-Modified: "_L1);
     contentLength = LabelledValue(text, "Content-Length: "_L1);

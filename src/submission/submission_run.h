@@ -45,6 +45,7 @@ public:
     };
 
     explicit SubmissionRun(const Parts &theParts);
+    ~SubmissionRun() = default;
     Q_DISABLE_COPY_MOVE(SubmissionRun)
 
     /// What the popup's other modes and the upgrade check are; none, and their entries do nothing.

@@ -2,6 +2,7 @@
 
 #include "database/stored_text.h"
 
+#include <QDir>
 #include <QSqlError>
 #include <QUrl>
 #include <QUuid>
@@ -90,7 +91,12 @@ void SqliteConnection::Open(const QString &name) {
         Accept(database.lastError());
         return;
     }
-    Run(u"PRAGMA synchronous = FULL"_s);
+    // The first of them reads the file: one that is locked is waited for here and not a second time.
+    if (!Run(u"PRAGMA synchronous = FULL"_s)) {
+        statements.clear();
+        database.close();
+        return;
+    }
     Run(u"PRAGMA trusted_schema = OFF"_s);
     Run(u"PRAGMA cell_size_check = ON"_s);
 }

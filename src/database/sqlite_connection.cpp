@@ -2,7 +2,6 @@
 
 #include "database/stored_text.h"
 
-#include <QDir>
 #include <QSqlError>
 #include <QUrl>
 #include <QUuid>

@@ -6,7 +6,10 @@ namespace lanterra {
 
 BoxAnswer ConsoleDialogs::Show(const MessageBox &box) {
     hasShownBox = true;
-    console.TellLine(box.title + u": "_s + QString(box.text).replace("\r\n"_L1, " "_L1));
+    QString text = box.title + u": "_s + box.text;
+    if (!box.detail.isEmpty())
+        text = text.trimmed() + u' ' + box.detail;
+    console.TellLine(text.replace("\r\n"_L1, " "_L1));
     return box.buttons == BoxButtons::YesNo ? givenAnswer.value_or(box.defaultAnswer) : box.defaultAnswer;
 }
 

@@ -63,8 +63,7 @@ Outcome Clear(const CommandCall &call, Program &program) {
     if (call.answer != BoxAnswer::Yes)
         return Outcome::Refused(u"Nothing was deleted; --yes deletes the statistics."_s);
     if (program.statistics.DBGrid1.rowCount() > 0)
-        return Outcome::Failed(
-            u"The statistics could not be deleted: %1"_s.arg(program.project.database.Data2.Failure()));
+        return {ExitCode::Failed}; // the box has told why
     return {};
 }
 

@@ -5,7 +5,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString tenMegabytes(10 * 1024 * 1024, u'x');
+const QString tenMegabytes(10LL * 1024 * 1024, u'x');
 
 class TenMegabytesTest : public RunFixture {
 protected:

@@ -3,7 +3,8 @@
 #include <QDir>
 #include <malloc.h>
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+// mallinfo2 knows nothing of the sanitizer's own heap. GCC brings this function without its header.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // NOLINT(bugprone-reserved-identifier)
 #endif
 
 namespace lanterra {

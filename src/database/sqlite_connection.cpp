@@ -2,6 +2,7 @@
 
 #include "database/stored_text.h"
 
+#include <QDir>
 #include <QSqlError>
 #include <QUrl>
 #include <QUuid>

@@ -57,8 +57,12 @@ std::unique_ptr<QTcpSocket> Connection::NewTlsSocket() {
 
 void Connection::TakeConnected() {
     socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    if (!tail.Hold(socket->socketDescriptor())) {
+        End(SocketFailure(QAbstractSocket::SocketResourceError));
+        return;
+    }
+    writer.Start(*socket, tail.Descriptor());
     if (!server.secure) {
-        tail.Hold(socket->socketDescriptor());
         Stand();
     } else if (proxy.host.isEmpty()) {
         Secure();
@@ -134,17 +138,15 @@ Failure Connection::FailureOf(QAbstractSocket::SocketError error) const {
 bool Connection::EndedInOrder() const { return tls ? closedByAlert : tail.WasClosedInOrder(); }
 
 void Connection::Write(const QByteArray &bytes) {
-    if (ended)
-        return;
-    socket->write(bytes);
-    socket->flush();
+    if (!ended)
+        writer.Write(bytes);
 }
 
 QByteArray Connection::Read() {
     if (!leftover.isEmpty())
         return std::exchange(leftover, {});
     QByteArray block = socket->isReadable() ? socket->read(blockSize) : QByteArray();
-    if (block.isEmpty() && ended)
+    if (block.isEmpty() && ended && !tls)
         block = tail.Read(blockSize);
     return block;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/failure.h"
+#include "platform/paced_writer.h"
 #include "platform/proxy_tunnel.h"
 #include "platform/socket_tail.h"
 #include "platform/target_address.h"
@@ -78,6 +79,7 @@ private:
     QSslSocket *tls = nullptr; ///< socket, if the server is https
     ProxyTunnel tunnel;
     SocketTail tail;
+    PacedWriter writer;
     Stage stage = Stage::Connecting;
     bool ended = false;
     bool closedByAlert = false; ///< the server has sent the closing alert of TLS

@@ -8,10 +8,11 @@
 
 namespace lanterra {
 
-void SocketTail::Hold(qintptr descriptor) {
+bool SocketTail::Hold(qintptr descriptor) {
     Release();
     sawError = false;
     duplicate = fcntl(static_cast<int>(descriptor), F_DUPFD_CLOEXEC, 0);
+    return duplicate != none;
 }
 
 QByteArray SocketTail::Read(qsizetype atMost) {

@@ -15,8 +15,8 @@ public:
     SocketTail() = default;
     ~SocketTail() { Release(); }
 
-    /// Keeps a duplicate of the descriptor. Where that fails the tail is empty and its end counts as a reset.
-    void Hold(qintptr descriptor);
+    /// Keeps a duplicate of the descriptor. False if the process can't have one more.
+    bool Hold(qintptr descriptor);
 
     /// Up to `atMost` bytes that nobody has read; empty at the end and when nothing waits.
     QByteArray Read(qsizetype atMost);
@@ -24,6 +24,9 @@ public:
     /// Whether the peer ended its side by a close. Meaningful once Qt has reported the end and Read gave
     /// nothing.
     bool WasClosedInOrder() const;
+
+    /// The duplicate; -1 if there is none.
+    int Descriptor() const { return duplicate; }
 
     void Release();
 

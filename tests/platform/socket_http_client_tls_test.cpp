@@ -1,4 +1,5 @@
 #include "tests/platform/client_fixture.h"
+#include "tests/platform/resetting_server.h"
 
 #include <QProcess>
 #include <QSslKey>
@@ -81,6 +82,39 @@ TEST_F(SocketHttpClientTlsTest, ALargeAnswerArrivesWhole) {
     server.then = Then::Close;
     EXPECT_EQ(Exchange(), done);
     EXPECT_EQ(client->BodyBytes(), 5000011);
+}
+
+// The server's reset is there before the client writes, and the answer lies unread in front of it.
+TEST_F(SocketHttpClientTlsTest, AnAnswerThatComesBeforeTheRequestWasReadCounts) {
+    Secure();
+    ResettingServer early(server.tls, good);
+    client->SetTarget(u"https://127.0.0.1:%1/"_s.arg(early.port));
+    QObject::disconnect(client.get(), &HttpClient::Connected, nullptr, nullptr);
+    QObject::connect(client.get(), &HttpClient::Connected, client.get(), [&] {
+        EXPECT_TRUE(WaitFor([&] { return early.stands.available() > 0; }));
+        early.go.release();
+        EXPECT_TRUE(early.reset.tryAcquire(1, 5000));
+        client->SetRequestHeaders("CONTENT-LENGTH: 900000\r\n\r\n" + QByteArray(900000, 'x'));
+        client->SendPost();
+        Log(u"Connected"_s);
+    });
+    EXPECT_EQ(Exchange(), done) << client->FailureReason().toStdString();
+    EXPECT_EQ(Page(), "hello body\n");
+}
+
+TEST_F(SocketHttpClientTlsTest, ALargeRequestArrivesWhole) {
+    Secure();
+    posts = true;
+    headers = "CONTENT-LENGTH: 5000000\r\n\r\n" + QByteArray(4999999, 'x') + '.';
+    for (const bool overTls : {true, false}) {
+        if (!overTls)
+            server.tls = {};
+        client->SetTarget(Address(overTls ? u"https"_s : u"http"_s));
+        server.received.clear();
+        Begin();
+        EXPECT_TRUE(WaitFor([this] { return server.received.endsWith('.'); })) << overTls;
+        EXPECT_EQ(server.received.size() - server.received.indexOf("\r\n\r\n"), 5000004);
+    }
 }
 
 TEST_F(SocketHttpClientTlsTest, CertificatesAreChecked) {

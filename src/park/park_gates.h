@@ -28,9 +28,6 @@ public:
     /// The gates that stand open, in the order of the table within each group.
     const QList<OpenGate> &Open() const { return open; }
 
-    /// The file with the authority that clients are to trust; empty without TLS.
-    QString AuthorityPath() const { return certificates ? certificates->AuthorityPath() : QString(); }
-
 private:
     bool OpenGroup(Gate::Group group, quint16 firstPort);
     bool OpenOne(const Gate &gate, quint16 port);

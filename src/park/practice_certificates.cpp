@@ -5,8 +5,10 @@
 #include <QProcess>
 #include <QSslCertificate>
 #include <QSslKey>
+#include <QTemporaryDir>
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -15,6 +17,8 @@ namespace lanterra {
 namespace {
 
 constexpr int patience = 30'000; // milliseconds
+
+constexpr QStringView names[] = {u"authority", u"good", u"expired", u"other-host", u"self-made", u"stranger"};
 
 // In the order in which they need each other.
 constexpr QStringView steps[] = {
@@ -40,17 +44,25 @@ QByteArray ContentOf(const QString &path) {
 } // namespace
 
 PracticeCertificates::PracticeCertificates(const QString &folder) : path(folder) {
+    std::optional<QTemporaryDir> temporary;
     if (folder.isEmpty())
         path = temporary.emplace().path();
     if (!AreThere())
         MakeAll();
+    ReadAll();
 }
 
 bool PracticeCertificates::AreThere() const {
-    const QString files[] = {u"authority.pem"_s,  u"server.key"_s,    u"good.pem"_s,    u"expired.pem"_s,
-                             u"other-host.pem"_s, u"self-made.pem"_s, u"stranger.pem"_s};
-    return std::all_of(std::begin(files), std::end(files),
-                       [this](const QString &name) { return QFile::exists(PathOf(name)); });
+    const bool noneIsMissing = std::all_of(std::begin(names), std::end(names), [this](QStringView name) {
+        return QFile::exists(PathOf(name.toString() + u".pem"_s));
+    });
+    return noneIsMissing && QFile::exists(PathOf(u"server.key"_s));
+}
+
+void PracticeCertificates::ReadAll() {
+    for (const QStringView name : names)
+        certificates.insert(name.toString(), ContentOf(PathOf(name.toString() + u".pem"_s)));
+    serverKey = ContentOf(PathOf(u"server.key"_s));
 }
 
 void PracticeCertificates::MakeAll() {
@@ -81,8 +93,8 @@ bool PracticeCertificates::RunOpenSsl(const QString &arguments) {
 
 QSslConfiguration PracticeCertificates::ConfigurationOf(const QString &certificate) const {
     QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
-    configuration.setLocalCertificate(QSslCertificate(ContentOf(PathOf(certificate + u".pem"_s))));
-    configuration.setPrivateKey(QSslKey(ContentOf(PathOf(u"server.key"_s)), QSsl::Ec));
+    configuration.setLocalCertificate(QSslCertificate(certificates.value(certificate)));
+    configuration.setPrivateKey(QSslKey(serverKey, QSsl::Ec));
     return configuration;
 }
 

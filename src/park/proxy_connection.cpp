@@ -11,10 +11,10 @@ namespace lanterra {
 
 namespace {
 
-constexpr int patience = 30'000;             // milliseconds for a request, or to take a refusal
-constexpr qsizetype headLimit = 65'536;      // bytes
-constexpr qint64 sendAheadLimit = 262'144;   // bytes
-constexpr qint64 upwardLimit = 16 * 1048576; // bytes; far more than the practice web takes of a request
+constexpr int patience = 30'000;               // milliseconds for a request, or to take a refusal
+constexpr qsizetype headLimit = 65'536;        // bytes
+constexpr qint64 sendAheadLimit = 262'144;     // bytes
+constexpr qint64 upwardLimit = 16LL * 1048576; // bytes; far more than the practice web takes of a request
 
 /// The port of this computer that the request is for, 0 if it is for another one.
 quint16 PortOf(const QByteArray &method, const QByteArray &target) {

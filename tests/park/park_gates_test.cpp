@@ -60,7 +60,8 @@ TEST_F(ParkGatesTest, AreListedWithTheirPorts) {
 
 TEST_F(ParkGatesTest, CertificatesAreKeptInTheirFolder) {
     const QString path = folder.filePath(u"certificates"_s);
-    const QString authority = PracticeCertificates(path).AuthorityPath();
+    const QString authority = path + u"/authority.pem"_s;
+    EXPECT_EQ(PracticeCertificates(path).ErrorText(), u""_s);
     const QByteArray made = Content(authority);
     EXPECT_TRUE(made.startsWith("-----BEGIN CERTIFICATE-----"));
     EXPECT_EQ(PracticeCertificates(path).ErrorText(), u""_s);

@@ -72,11 +72,11 @@ bool ProgramFolder::Prepare(const VersionOf &versionOf) const {
 bool ProgramFolder::IsRenewed(const QString &name, const VersionOf &versionOf) const {
     const QString installed = QDir(places.share).filePath(name);
     const QString own = QDir(path).filePath(name);
-    if (QFileInfo(installed).lastModified() <= QFileInfo(own).lastModified())
-        return false;
+    // A damaged master has version 0, so a sound one takes its place however old the file is.
     if (name == masterName)
         return versionOf(installed) > versionOf(own);
-    return name == engineName || name.startsWith(templateFolder);
+    return (name == engineName || name.startsWith(templateFolder)) &&
+           QFileInfo(installed).lastModified() > QFileInfo(own).lastModified();
 }
 
 } // namespace lanterra

@@ -3,6 +3,7 @@
 #include <QNetworkProxy>
 #include <QSslConfiguration>
 #include <QSslSocket>
+#include <QTimer>
 #include <utility>
 
 namespace lanterra {
@@ -106,9 +107,10 @@ void Connection::TakeTunnelAnswer() {
 void Connection::TakeError(QAbstractSocket::SocketError error) {
     if (ended)
         return;
-    // The socket gives up connecting after 30 seconds. How long a server is waited for is the caller's matter.
+    // The socket gives up connecting after 30 seconds. How long a server is waited for is the caller's
+    // matter.
     if (stage == Stage::Connecting && error == QAbstractSocket::SocketTimeoutError) {
-        QMetaObject::invokeMethod(this, &Connection::Open, Qt::QueuedConnection);
+        QTimer::singleShot(0, this, &Connection::Open);
         return;
     }
     if (stage == Stage::Standing)

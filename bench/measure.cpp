@@ -1,7 +1,7 @@
 // measure RUNS COMMAND [ARGUMENT ...]
 //
-// Runs a command RUNS times, its output thrown away, and prints the medians of its wall time and processor time in
-// milliseconds and of its peak memory in KiB, as the operating system accounts for each finished run.
+// Runs a command RUNS times, its output thrown away, and prints the medians of its wall time and processor
+// time in milliseconds and of its peak memory in KiB, as the operating system accounts for each finished run.
 
 #include <algorithm>
 #include <chrono>

@@ -1,5 +1,5 @@
-// Times what a person waits for in the project's file: collecting the requests of a run, saving and loading, beside
-// the cost of one flush of the same disk.
+// Times what a person waits for in the project's file: collecting the requests of a run, saving and loading,
+// beside the cost of one flush of the same disk.
 
 #include "tests/fakes/fake_clock.h"
 #include "tests/fakes/fake_dialogs.h"

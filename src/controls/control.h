@@ -4,8 +4,9 @@
 
 namespace lanterra {
 
-/// What all controls share: an observable value that a face can enable, show and give the focus to. A control has
-/// no picture of itself; the window binds it to a widget by its name, the command line writes to it directly.
+/// What all controls share: an observable value that a face can enable, show and give the focus to. A control
+/// has no picture of itself; the window binds it to a widget by its name, the command line writes to it
+/// directly.
 class Control : public QObject {
     Q_OBJECT
 

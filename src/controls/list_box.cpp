@@ -25,9 +25,7 @@ void ListBox::SetItems(const QStringList &names) {
     emit ListIndexChanged(listIndex);
 }
 
-void ListBox::Clear() {
-    SetItems({});
-}
+void ListBox::Clear() { SetItems({}); }
 
 void ListBox::SetSelected(int index, bool marked) {
     if (Selected(index) == marked || !Contains(index))
@@ -69,9 +67,7 @@ void ListBox::SetListIndex(int index) {
     emit ListIndexChanged(index);
 }
 
-void ListBox::SetText(const QString &name) {
-    SetListIndex(static_cast<int>(items.indexOf(name)));
-}
+void ListBox::SetText(const QString &name) { SetListIndex(static_cast<int>(items.indexOf(name))); }
 
 void ListBox::SetEnabled(bool on) {
     if (enabled == on)
@@ -80,9 +76,7 @@ void ListBox::SetEnabled(bool on) {
     emit EnabledChanged(on);
 }
 
-int ListBox::rowCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : ListCount();
-}
+int ListBox::rowCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : ListCount(); }
 
 QVariant ListBox::data(const QModelIndex &index, int role) const {
     if (!Contains(index.row()))

@@ -6,9 +6,9 @@
 
 namespace lanterra {
 
-/// A list of names, each with a check mark, and one current entry. As a model it offers the names, their marks
-/// (Qt::CheckStateRole) and whether they can be changed now. It bears the members of Control itself, because a
-/// model can't be a second QObject.
+/// A list of names, each with a check mark, and one current entry. As a model it offers the names, their
+/// marks (Qt::CheckStateRole) and whether they can be changed now. It bears the members of Control itself,
+/// because a model can't be a second QObject.
 class ListBox : public QAbstractListModel {
     Q_OBJECT
 
@@ -38,8 +38,8 @@ public:
     int ListIndex() const { return listIndex; }
     void SetListIndex(int index);
 
-    /// The name of the current entry; setting it makes the first entry of exactly that name current, none if there
-    /// is no such entry.
+    /// The name of the current entry; setting it makes the first entry of exactly that name current, none if
+    /// there is no such entry.
     QString Text() const { return Item(listIndex); }
     void SetText(const QString &name);
 

@@ -10,8 +10,8 @@ class Clock {
 public:
     virtual ~Clock() = default;
 
-    /// Seconds since local midnight, 0 up to 86400, in single precision. It starts again from 0 at midnight, so a
-    /// difference of two values can be negative; the run keeps it that way.
+    /// Seconds since local midnight, 0 up to 86400, in single precision. It starts again from 0 at midnight,
+    /// so a difference of two values can be negative; the run keeps it that way.
     virtual float Timer() const = 0;
 
     /// The local date and time, for reports and statistics.

@@ -15,8 +15,9 @@ struct MessageBox {
     QString title;
     BoxIcon icon = BoxIcon::None;
     BoxButtons buttons = BoxButtons::Ok;
-    BoxAnswer defaultAnswer = BoxAnswer::Ok; ///< the button that Return presses and that closing the box means
-    QString detail = {};                     ///< the reason, shown below the text; empty for none
+    BoxAnswer defaultAnswer =
+        BoxAnswer::Ok;   ///< the button that Return presses and that closing the box means
+    QString detail = {}; ///< the reason, shown below the text; empty for none
 };
 
 /// One line asked of the user.
@@ -34,7 +35,8 @@ struct FileDialog {
     QString defaultExtension; ///< added to a typed name without one; empty for none
 };
 
-/// Everything that stops the user with a question. Each call blocks while events go on, and returns the answer.
+/// Everything that stops the user with a question. Each call blocks while events go on, and returns the
+/// answer.
 class Dialogs {
 public:
     virtual ~Dialogs() = default;

@@ -16,8 +16,9 @@ public:
     /// Runs the handlers of all events that are pending now and returns. Never sleeps.
     virtual void Yield() = 0;
 
-    /// Sleeps inside the queue until an event was handled or `atMost` has passed, whichever comes first. A wait
-    /// of zero or less is a Yield. It may return early without either; callers test their condition and call again.
+    /// Sleeps inside the queue until an event was handled or `atMost` has passed, whichever comes first. A
+    /// wait of zero or less is a Yield. It may return early without either; callers test their condition and
+    /// call again.
     virtual void Wait(std::chrono::milliseconds atMost) = 0;
 
     /// True once the program is ending. From then on Wait never sleeps and every wait loop leaves at once.

@@ -8,8 +8,8 @@ enum class ModalForm { ProjectDialog, Settings, WebBrowser, Multi };
 /// The popup menus that buttons open. A channel's popup is told by its own entry.
 enum class PopupMenu { Submit, Cancel2, Engines, Status, Status2, Status3, Status4, Status5 };
 
-/// Opens forms and popup menus. What the user does there reaches the program through the handlers of the form's
-/// controls and of the menu's entries, which run before the call returns.
+/// Opens forms and popup menus. What the user does there reaches the program through the handlers of the
+/// form's controls and of the menu's entries, which run before the call returns.
 class Forms {
 public:
     virtual ~Forms() = default;

@@ -18,11 +18,12 @@ public:
     /// Moves the focus on from a box in which Return was pressed. False for a box that doesn't answer to it.
     bool ReturnPressed(const TextBox &box);
 
-    /// Puts "http://" before an address without a scheme. The test minds the case and knows only two schemes, so
-    /// "HTTP://..." and "ftp://..." get the prefix, too.
+    /// Puts "http://" before an address without a scheme. The test minds the case and knows only two schemes,
+    /// so "HTTP://..." and "ftp://..." get the prefix, too.
     void txtURL_LostFocus();
 
-    /// Warn of a text, in a box that blocks while events go on, of more than 255 characters. It stays in the box and is cut when the project is saved.
+    /// Warn of a text, in a box that blocks while events go on, of more than 255 characters. It stays in the
+    /// box and is cut when the project is saved.
     void txtTitle_LostFocus();
     void txtDesc_LostFocus();
 

@@ -4,9 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
-QString MainFrame::Caption() const {
-    return u"Zephyrine Lanterra 2 - "_s + projectName;
-}
+QString MainFrame::Caption() const { return u"Zephyrine Lanterra 2 - "_s + projectName; }
 
 void MainFrame::SetProjectName(const QString &name) {
     projectName = name;

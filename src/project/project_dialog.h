@@ -16,7 +16,8 @@ public:
     ProjectDialog(ProjectPath &projectPath, ProjectFiles &projectFiles, RecentFile &recentFile,
                   CheckBox &loadLastProject, Dialogs &fileDialogs);
 
-    /// Fills the list from the recent files. A first start offers to create a project, a later one to open one.
+    /// Fills the list from the recent files. A first start offers to create a project, a later one to open
+    /// one.
     void Load();
 
     void cmdOK_Click();

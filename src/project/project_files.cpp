@@ -133,8 +133,9 @@ void ProjectFiles::mnuFileMRU_Click(int item) {
         LoadProject();
 }
 
-// The project's own file, or the master where that path leads to no database, or to other sites by now: Save As is
-// the way out of both. A file that can't be read at the moment stays the source, as its statistics go with it.
+// The project's own file, or the master where that path leads to no database, or to other sites by now: Save
+// As is the way out of both. A file that can't be read at the moment stays the source, as its statistics go
+// with it.
 QString ProjectFiles::SourceOfCopy() {
     Project &project = parts.project;
     const QString refusal = SqliteFileRefusal(project.path.Base);

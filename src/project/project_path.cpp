@@ -25,17 +25,11 @@ ProjectPath::ProjectPath(const QString &programFolder)
     SplitProjectPath();
 }
 
-QString ProjectPath::ProjectsFolder() const {
-    return WithSeparator(appPath + u"Projects"_s);
-}
+QString ProjectPath::ProjectsFolder() const { return WithSeparator(appPath + u"Projects"_s); }
 
-void ProjectPath::CreateProjectsFolder() const {
-    QDir().mkpath(ProjectsFolder());
-}
+void ProjectPath::CreateProjectsFolder() const { QDir().mkpath(ProjectsFolder()); }
 
-QString ProjectPath::MasterFile() const {
-    return appPath + u"ng.dll"_s;
-}
+QString ProjectPath::MasterFile() const { return appPath + u"ng.dll"_s; }
 
 void ProjectPath::SplitProjectPath() {
     if (Base.isEmpty()) {
@@ -46,7 +40,8 @@ void ProjectPath::SplitProjectPath() {
     Base = QDir::toNativeSeparators(QDir().absoluteFilePath(Base));
     const qsizetype nameStart = Base.lastIndexOf(QDir::separator()) + 1;
     // The last four characters are taken for the ending, whatever they are.
-    const QString typedName = Base.mid(nameStart, std::max<qsizetype>(Base.size() - nameStart - endingLength, 0));
+    const QString typedName =
+        Base.mid(nameStart, std::max<qsizetype>(Base.size() - nameStart - endingLength, 0));
     ProjectFolder = Base.left(nameStart);
     ProjectName = RemoveChars(typedName);
     if (!CanBeFileName(ProjectName) || ProjectName.trimmed().isEmpty())

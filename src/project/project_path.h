@@ -19,19 +19,19 @@ public:
     /// Path of the master database.
     QString MasterFile() const;
 
-    /// Derives folder and name from Base, and gives Base the cleaned name with the ending ".rts". A relative Base
-    /// becomes absolute. A project file that exists keeps its name, and no Base becomes the name of a file that exists,
-    /// so neither a project is lost sight of nor another one overwritten. An empty Base stays empty and stands
-    /// for "Project1" in the folder for projects.
+    /// Derives folder and name from Base, and gives Base the cleaned name with the ending ".rts". A relative
+    /// Base becomes absolute. A project file that exists keeps its name, and no Base becomes the name of a
+    /// file that exists, so neither a project is lost sight of nor another one overwritten. An empty Base
+    /// stays empty and stands for "Project1" in the folder for projects.
     void SplitProjectPath();
 
     /// Derives StatsFilePath from a Base that holds ".rts", in either case; otherwise the old value stays.
     void ComputeStatsFilePath();
 
-    QString Base;                         ///< full path of the open project, empty for none
-    QString ProjectFolder;                ///< with a separator at the end
+    QString Base;          ///< full path of the open project, empty for none
+    QString ProjectFolder; ///< with a separator at the end
     QString ProjectName;   ///< without folder and ending
-    QString StatsFilePath;                ///< kept for file managers that pair the two; nothing reads it
+    QString StatsFilePath; ///< kept for file managers that pair the two; nothing reads it
 
 private:
     QString appPath;

@@ -17,12 +17,18 @@ ProjectRecord::ProjectRecord()
 
 void ProjectRecord::ListFields() {
     textFields = {
-        {u"txtURL"_s, &txtURL, false, MultiUrlTable::urlColumn},        {u"txtEmail"_s, &txtEmail, true},
-        {u"txtName1"_s, &txtName1, true},     {u"txtName2"_s, &txtName2, true},
-        {u"txtCompany"_s, &txtCompany, true}, {u"txtStreet"_s, &txtStreet, true},
-        {u"txtState"_s, &txtState, true},     {u"txtCountry"_s, &txtCountry, true},
-        {u"txtCity"_s, &txtCity, true},       {u"txtZip"_s, &txtZip, true},
-        {u"txtPhone"_s, &txtPhone, true},     {u"txtFax"_s, &txtFax, true},
+        {u"txtURL"_s, &txtURL, false, MultiUrlTable::urlColumn},
+        {u"txtEmail"_s, &txtEmail, true},
+        {u"txtName1"_s, &txtName1, true},
+        {u"txtName2"_s, &txtName2, true},
+        {u"txtCompany"_s, &txtCompany, true},
+        {u"txtStreet"_s, &txtStreet, true},
+        {u"txtState"_s, &txtState, true},
+        {u"txtCountry"_s, &txtCountry, true},
+        {u"txtCity"_s, &txtCity, true},
+        {u"txtZip"_s, &txtZip, true},
+        {u"txtPhone"_s, &txtPhone, true},
+        {u"txtFax"_s, &txtFax, true},
         {u"txtTitle"_s, &txtTitle, true, MultiUrlTable::titleColumn},
     };
     // The address and the keywords are stored as they stand: one that is too long fails alone and is not cut.
@@ -47,8 +53,8 @@ void ProjectRecord::NameControls() {
     SSCommand7.setObjectName(u"SSCommand7"_s);
 }
 
-// Keeps the table current while a person types. During a load the address stays out of it, but the other texts go
-// to slot 0: the load fills the slots afterwards.
+// Keeps the table current while a person types. During a load the address stays out of it, but the other
+// texts go to slot 0: the load fills the slots afterwards.
 void ProjectRecord::FollowChanges() {
     connect(&txtURL, &TextBox::TextChanged, this, [this](const QString &text) {
         if (!LoadingProject)

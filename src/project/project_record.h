@@ -12,8 +12,8 @@
 
 namespace lanterra {
 
-/// What a project says of its page and its owner. The record has no state beside its controls, whose names are
-/// the field names of the project file, and the table of several URLs that follows them.
+/// What a project says of its page and its owner. The record has no state beside its controls, whose names
+/// are the field names of the project file, and the table of several URLs that follows them.
 class ProjectRecord : public QObject {
     Q_OBJECT
 
@@ -24,9 +24,9 @@ public:
     static constexpr int noColumn = -1;
 
     struct TextField {
-        QString name;   ///< of the control and of the stored field
+        QString name; ///< of the control and of the stored field
         TextBox *box;
-        bool cutOnSave; ///< the box itself is cut to fieldSize before it is stored
+        bool cutOnSave;        ///< the box itself is cut to fieldSize before it is stored
         int column = noColumn; ///< where MultiUrlTable holds it for several URLs
     };
     struct CheckField {
@@ -58,15 +58,15 @@ public:
 
     TextBox txtURL, txtTitle, txtDesc;
     std::array<TextBox, 6> txtKey; ///< txtKey1 to txtKey6
-    TextBox txtEmail, txtName1, txtName2, txtCompany, txtStreet, txtState, txtCountry, txtCity, txtZip, txtPhone,
-        txtFax;
+    TextBox txtEmail, txtName1, txtName2, txtCompany, txtStreet, txtState, txtCountry, txtCity, txtZip,
+        txtPhone, txtFax;
     TextBox txtLimit; ///< seconds that a request may take
     TextBox txtName;  ///< both names joined, for the report; also where the focus goes to be out of the way
     TextBox txttrazim;
     ComboBox Combo2;
     CheckBox chkMultiSameDesc, Check1, Check3;
-    ScrollBar HScroll1;  ///< the slot on show
-    Button SSCommand7;   ///< "multiple", marked while the mode is on
+    ScrollBar HScroll1; ///< the slot on show
+    Button SSCommand7;  ///< "multiple", marked while the mode is on
 
     MultiUrlTable multiUrlTable;
     int MultiUrlUpper = 0;       ///< highest slot in use

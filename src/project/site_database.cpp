@@ -18,12 +18,11 @@ bool Bind(DataControl &control, const QString &file, const QString &table) {
 } // namespace
 
 SiteDatabase::SiteDatabase(DatabaseFiles &databaseFiles, const ProjectPath &projectPath)
-    : Data1(databaseFiles, DataControl::Access::ReadOnly), Data2(databaseFiles, DataControl::Access::ReadWrite),
+    : Data1(databaseFiles, DataControl::Access::ReadOnly),
+      Data2(databaseFiles, DataControl::Access::ReadWrite),
       Data3(databaseFiles, DataControl::Access::ReadWrite), path(projectPath) {}
 
-bool SiteDatabase::BindMaster() {
-    return Bind(Data1, path.MasterFile(), u"Data"_s);
-}
+bool SiteDatabase::BindMaster() { return Bind(Data1, path.MasterFile(), u"Data"_s); }
 
 bool SiteDatabase::BindProject() {
     if (IsSameFile(path.Base, path.MasterFile())) {

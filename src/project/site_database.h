@@ -9,8 +9,9 @@ namespace lanterra {
 
 class DatabaseFiles;
 
-/// The three bound data objects: the master, the open project, and the project's statistics. A routine that needs
-/// a table tests the record source first and rebinds only then; nothing restores the table that was bound before.
+/// The three bound data objects: the master, the open project, and the project's statistics. A routine that
+/// needs a table tests the record source first and rebinds only then; nothing restores the table that was
+/// bound before.
 class SiteDatabase {
 public:
     SiteDatabase(DatabaseFiles &databaseFiles, const ProjectPath &projectPath);
@@ -18,8 +19,8 @@ public:
     /// Binds Data1 to table "Data" of the master.
     bool BindMaster();
 
-    /// Binds Data2 to table "Data" of the file `Base`. False for a file that is no sound database, and for the
-    /// master, which is never written.
+    /// Binds Data2 to table "Data" of the file `Base`. False for a file that is no sound database, and for
+    /// the master, which is never written.
     bool BindProject();
 
     /// Gives Data3 the file of Data2 and table "Stats" if it has no file yet.
@@ -34,16 +35,16 @@ private:
     const ProjectPath &path;
 };
 
-/// Makes the control's row set that of `table`, with a refresh only if it isn't already. False, with no row set, if
-/// that failed.
+/// Makes the control's row set that of `table`, with a refresh only if it isn't already. False, with no row
+/// set, if that failed.
 bool EnsureRecordSource(DataControl &control, const QString &table);
 
-/// Closes a control whose file another program, such as a second instance that ended, has replaced, so that the next
-/// EnsureRecordSource reads the new one.
+/// Closes a control whose file another program, such as a second instance that ended, has replaced, so that
+/// the next EnsureRecordSource reads the new one.
 void LeaveReplacedFile(DataControl &control);
 
-/// A walk over the rows of a table whose steps yield. Other handlers may move the control or turn it to another
-/// table meanwhile, and each step brings it back; one that was bound to another file ends the walk.
+/// A walk over the rows of a table whose steps yield. Other handlers may move the control or turn it to
+/// another table meanwhile, and each step brings it back; one that was bound to another file ends the walk.
 class TableWalk {
 public:
     TableWalk(DataControl &dataControl, const QString &tableName);

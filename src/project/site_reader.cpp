@@ -6,9 +6,7 @@ namespace lanterra {
 
 namespace {
 
-int FirstRowVersion(DataControl &table) {
-    return table.MoveFirst() ? table.Number(u"Version"_s) : 0;
-}
+int FirstRowVersion(DataControl &table) { return table.MoveFirst() ? table.Number(u"Version"_s) : 0; }
 
 // The first row with an empty name ends the list, even if more rows follow.
 void ReadSites(DataControl &table, ListBox &list) {

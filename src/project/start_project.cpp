@@ -8,11 +8,12 @@ namespace lanterra {
 
 namespace {
 
-const InputBox nameQuestion{
-    u"(A project comprises all the data concerning a web page including the web page details and all the site "
-    u"categories selected. Each project covers a specific statistics and you will find a complete review of each "
-    u"registration therein)\r\nPLEASE ENTER YOUR PROJECT NAME: "_s,
-    u"Create a new project"_s, u"Project1"_s};
+const InputBox nameQuestion{u"(A project comprises all the data concerning a web page including the web page "
+                            u"details and all the site "
+                            u"categories selected. Each project covers a specific statistics and you will "
+                            u"find a complete review of each "
+                            u"registration therein)\r\nPLEASE ENTER YOUR PROJECT NAME: "_s,
+                            u"Create a new project"_s, u"Project1"_s};
 
 } // namespace
 

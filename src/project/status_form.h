@@ -6,13 +6,14 @@
 
 namespace lanterra {
 
-/// frmStatus: the progress of a long job, with a Cancel that the job looks at between its steps. A job that begins
-/// in a yield of another one has the form to itself until it ends, its Cancel included.
+/// frmStatus: the progress of a long job, with a Cancel that the job looks at between its steps. A job that
+/// begins in a yield of another one has the form to itself until it ends, its Cancel included.
 class StatusForm : public QObject {
     Q_OBJECT
 
 public:
-    /// Begins a job: shows the form without blocking and lowers the cancel flag. `maximum` below 1 counts as 1.
+    /// Begins a job: shows the form without blocking and lowers the cancel flag. `maximum` below 1 counts
+    /// as 1.
     void Show(const QString &text, int maximum);
     /// Moves the bar. A value above the maximum is clipped.
     void Advance(int newValue);
@@ -47,7 +48,7 @@ private:
     bool visible = false;
     int maximum = 1;
     int value = 0;
-    int depth = 0;             ///< jobs that have begun and not ended
+    int depth = 0;            ///< jobs that have begun and not ended
     std::vector<Job> waiting; ///< the jobs around the one on show, outermost first
 };
 

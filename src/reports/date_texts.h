@@ -5,8 +5,8 @@
 
 namespace lanterra {
 
-/// Date and time in the short forms of the user's locale, with ordinary blanks where the locale has narrow ones,
-/// which the code page can't hold.
+/// Date and time in the short forms of the user's locale, with ordinary blanks where the locale has narrow
+/// ones, which the code page can't hold.
 QString ShortDate(const QDateTime &moment);
 QString ShortTime(const QDateTime &moment);
 

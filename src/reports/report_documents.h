@@ -5,8 +5,8 @@
 
 namespace lanterra {
 
-/// Opens what the runs of the open project have left on the disk. None of the files need exist. All of these yield
-/// while a viewer is started.
+/// Opens what the runs of the open project have left on the disk. None of the files need exist. All of these
+/// yield while a viewer is started.
 class ReportDocuments {
 public:
     ReportDocuments(const ProjectPath &projectPath, DocumentViewer &documentViewer)

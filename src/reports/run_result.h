@@ -9,8 +9,8 @@
 
 namespace lanterra {
 
-/// A list of site names with room for 501. A write behind the end is dropped and a read gives nothing, while the
-/// count that goes with the list rises on.
+/// A list of site names with room for 501. A write behind the end is dropped and a read gives nothing, while
+/// the count that goes with the list rises on.
 class NameList {
 public:
     static constexpr int capacity = 501;
@@ -37,12 +37,13 @@ struct SiteOutcome {
     QString reason;            ///< why it failed or was passed by, one sentence without a full stop
 };
 
-/// What a run leaves behind: three lists of names with their counts, and where its pages and report lie. Kept until
-/// the next run overwrites it; an entry beyond a count can still hold a name of an earlier run.
+/// What a run leaves behind: three lists of names with their counts, and where its pages and report lie. Kept
+/// until the next run overwrites it; an entry beyond a count can still hold a name of an earlier run.
 class RunResult {
 public:
-    /// Empties the names of successes and failures, which a run does before its checks: old failures would swallow
-    /// new ones. The counts stay, and so do the names of sites that were not selected until they are written anew.
+    /// Empties the names of successes and failures, which a run does before its checks: old failures would
+    /// swallow new ones. The counts stay, and so do the names of sites that were not selected until they are
+    /// written anew.
     void ClearNames();
 
     /// Readies the counts and indexes for a run over `listCount` sites, all of them unjudged.
@@ -67,8 +68,8 @@ public:
     std::vector<SiteOutcome> outcomes; ///< by List1 position
     QStringList notStored; ///< what could not be written to the disk, a sentence with the reason each
 
-    /// The time from the first dispatch of the run to its last verdict so far, by a clock that only grows. 0 before
-    /// the first verdict.
+    /// The time from the first dispatch of the run to its last verdict so far, by a clock that only grows. 0
+    /// before the first verdict.
     std::chrono::milliseconds Duration() const { return lastVerdict - firstDispatch; }
     void NoteDispatch(std::chrono::milliseconds moment);
     /// Notes how the site at a List1 position fared. An index outside the run is passed over.
@@ -78,7 +79,7 @@ public:
     /// Notes why a site that takes part got no verdict; the first reason stays.
     void Explain(int listIndex, const QString &reason);
 
-    QString reportFolder;   ///< with a separator at the end
+    QString reportFolder; ///< with a separator at the end
     QString reportFile;
     int elapsedSeconds = 0; ///< negative for a run across midnight
 

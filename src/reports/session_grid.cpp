@@ -7,8 +7,14 @@ using namespace Qt::StringLiterals;
 namespace lanterra {
 
 const QStringList &SessionGrid::Fields() {
-    static const QStringList fields{u"Date"_s,   u"PageUrl"_s, u"Email"_s, u"Selected"_s, u"Successful"_s,
-                                    u"Failed"_s, u"Time"_s,    u"Successful Submissions"_s,
+    static const QStringList fields{u"Date"_s,
+                                    u"PageUrl"_s,
+                                    u"Email"_s,
+                                    u"Selected"_s,
+                                    u"Successful"_s,
+                                    u"Failed"_s,
+                                    u"Time"_s,
+                                    u"Successful Submissions"_s,
                                     u"Failed Submissions"_s};
     return fields;
 }
@@ -28,9 +34,7 @@ int SessionGrid::rowCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : static_cast<int>(rows.size());
 }
 
-int SessionGrid::columnCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : fieldCount;
-}
+int SessionGrid::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : fieldCount; }
 
 QVariant SessionGrid::data(const QModelIndex &index, int role) const {
     if (!index.isValid() || role != Qt::DisplayRole)

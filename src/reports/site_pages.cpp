@@ -20,15 +20,13 @@ QString SitePagePath(const QString &reportFolder, const QString &siteName) {
     return reportFolder + siteName + u".htm"_s;
 }
 
-bool CanHavePage(const QString &siteName) {
-    return siteName.isEmpty() || CanBeFileName(siteName);
-}
+bool CanHavePage(const QString &siteName) { return siteName.isEmpty() || CanBeFileName(siteName); }
 
 void WriteSitePage(const QString &reportFolder, const QString &siteName, const QString &html) {
     if (!CanHavePage(siteName))
         return;
-    // A new file in the place of the old one, without a flush of the disk: a run writes hundreds of pages, and none
-    // of them is worth waiting for.
+    // A new file in the place of the old one, without a flush of the disk: a run writes hundreds of pages,
+    // and none of them is worth waiting for.
     QFile page(SitePagePath(reportFolder, siteName));
     page.remove();
     if (page.open(QIODevice::WriteOnly | QIODevice::NewOnly))
@@ -36,16 +34,13 @@ void WriteSitePage(const QString &reportFolder, const QString &siteName, const Q
 }
 
 // Both pages are fixed texts. The blank that is missing before "vlink" in the first one belongs to it.
-QString BusySitePage() {
-    return ReadFileText(u":/reports/busy_site.htm"_s).trimmed() + u"\r\n"_s;
-}
+QString BusySitePage() { return ReadFileText(u":/reports/busy_site.htm"_s).trimmed() + u"\r\n"_s; }
 
-QString NotSelectedPage() {
-    return ReadFileText(u":/reports/not_selected.htm"_s).trimmed() + u"\r\n"_s;
-}
+QString NotSelectedPage() { return ReadFileText(u":/reports/not_selected.htm"_s).trimmed() + u"\r\n"_s; }
 
 QString RedirectionPage(const QString &redirectTarget, const QString &siteName) {
-    return u"<html><head><title>Your entry has been submitted! </title></head><body bgcolor=#FFFFFF text=#000000>"
+    return u"<html><head><title>Your entry has been submitted! </title></head><body bgcolor=#FFFFFF "
+           u"text=#000000>"
            u"<center><h1>Your entry has been submitted! </h1><a href="_s +
            redirectTarget + u">"_s + siteName + u"</a></body></html>\r\n"_s;
 }

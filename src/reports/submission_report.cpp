@@ -49,14 +49,15 @@ bool SubmissionReport::WriteSubmissionReport() {
     WholeFile file(result.reportFile);
     const Values values = HeadValues();
     bool good = true;
-    for (const QString &line : ReadFileText(u":/reports/submission_report.txt"_s).split(u'\n', Qt::SkipEmptyParts))
+    for (const QString &line :
+         ReadFileText(u":/reports/submission_report.txt"_s).split(u'\n', Qt::SkipEmptyParts))
         good = (line.startsWith(u'@') ? WriteRows(file, line) : WriteRecord(file, line, values)) && good;
     return good && file.Commit();
 }
 
-// One page more than there are names: the entry behind the list is empty on a first run, and later can be a name
-// left from an earlier run, whose page is lost that way even if the site was selected this time. Kept, as the
-// report links to that page.
+// One page more than there are names: the entry behind the list is empty on a first run, and later can be a
+// name left from an earlier run, whose page is lost that way even if the site was selected this time. Kept,
+// as the report links to that page.
 void SubmissionReport::WriteNotSelectedPages() const {
     const QString html = NotSelectedPage();
     for (int index = 0; index <= result.NotSelectedCount() && NameList::Holds(index); ++index)
@@ -90,10 +91,11 @@ bool SubmissionReport::WriteRows(WholeFile &file, const QString &loop) {
         const NameList &names;
         int rows;
     };
-    const std::array lists{List{u"@SuccessfulNames"_s, result.SuccessfulNames, result.SuccessfulCount()},
-                           List{u"@FailedNames"_s, result.FailedNames, result.FailedCount()},
-                           // with the row behind the last name
-                           List{u"@NotSelectedNames"_s, result.NotSelectedNames, result.NotSelectedCount() + 1}};
+    const std::array lists{
+        List{u"@SuccessfulNames"_s, result.SuccessfulNames, result.SuccessfulCount()},
+        List{u"@FailedNames"_s, result.FailedNames, result.FailedCount()},
+        // with the row behind the last name
+        List{u"@NotSelectedNames"_s, result.NotSelectedNames, result.NotSelectedCount() + 1}};
     const QString record = loop.mid(loop.indexOf(u' ') + 1);
     const auto list = std::find_if(lists.begin(), lists.end(), [&](const List &one) {
         return one.name == QStringView(loop).left(loop.indexOf(u' '));

@@ -32,8 +32,8 @@ public:
     const QString &Path() const { return path; }
 
     /// Fills the user's folder with the installed files that it lacks, and renews the master, the engine file
-    /// and the templates: the master if the share folder has one of a greater Version, the others by their time. False
-    /// if a file could not be copied; the others are. Does nothing for any other folder.
+    /// and the templates: the master if the share folder has one of a greater Version, the others by their
+    /// time. False if a file could not be copied; the others are. Does nothing for any other folder.
     bool Prepare(const VersionOf &versionOf) const;
 
 private:

@@ -13,8 +13,9 @@ Program::Program(const Doors &doors, const QString &programFolder)
       frmWebBrowser(options, doors.dialogs, project.path.Base), proxy(frmSettings),
       viewer(frmWebBrowser.BrowserPath, doors.documents, doors.dialogs),
       files({project, frame, frmStatus, recentFile, windowSettings, doors.dialogs, doors.queue}),
-      startProject(project, files, doors.forms, doors.dialogs, doors.queue), entry(project.record, doors.dialogs),
-      siteSelection(project, doors.queue), categorySelection(project, doors.dialogs, doors.queue),
+      startProject(project, files, doors.forms, doors.dialogs, doors.queue),
+      entry(project.record, doors.dialogs), siteSelection(project, doors.queue),
+      categorySelection(project, doors.dialogs, doors.queue),
       report(project, result, doors.clock, doors.queue),
       statistics(project, frame, doors.dialogs, doors.queue, doors.clock),
       reportDocuments(project.path, viewer),
@@ -22,8 +23,8 @@ Program::Program(const Doors &doors, const QString &programFolder)
                doors.makeClient),
       collector(project, files, frmStatus, doors.queue),
       counter(doors.makeClient(), hosts, options, project.path.AppPath() + u"tmp.mth"_s),
-      run({project, frame, frmStatus, files, frmSettings, proxy, channels, submitForm, collector, counter, result, report,
-           statistics, viewer, doors.dialogs, doors.forms, doors.queue, doors.clock}) {
+      run({project, frame, frmStatus, files, frmSettings, proxy, channels, submitForm, collector, counter,
+           result, report, statistics, viewer, doors.dialogs, doors.forms, doors.queue, doors.clock}) {
     for (int number = 1; number <= channelCount; ++number)
         proxy.AddClient(channels.Channel(number).Client());
 }

@@ -24,8 +24,8 @@ struct Doors {
     ChannelBank::ClientFactory makeClient;
 };
 
-/// One running program without its faces: every form's model and every procedure, made in the order in which they
-/// need each other. The window, the command line and tests work its controls and handlers.
+/// One running program without its faces: every form's model and every procedure, made in the order in which
+/// they need each other. The window, the command line and tests work its controls and handlers.
 class Program {
 public:
     /// `programFolder` holds the master database.

@@ -64,8 +64,8 @@ bool ChannelBank::AllFree() const {
 }
 
 SubmissionChannel *ChannelBank::Candidate() {
-    const auto found = std::find_if(channels.begin(), channels.end(),
-                                    [](const auto &channel) { return channel->Ended(); });
+    const auto found =
+        std::find_if(channels.begin(), channels.end(), [](const auto &channel) { return channel->Ended(); });
     return found == channels.end() ? nullptr : found->get();
 }
 

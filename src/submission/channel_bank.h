@@ -44,9 +44,9 @@ public:
     bool AnyFree() const;
     bool AllFree() const;
 
-    /// Hands the site at `nextSite` to the lowest-numbered channel that has ended. That one channel is the only
-    /// candidate: if it is disabled the site gets no request and no verdict, and so do all sites behind it for as
-    /// long as no lower-numbered channel has ended. Yields once and runs the watchdog.
+    /// Hands the site at `nextSite` to the lowest-numbered channel that has ended. That one channel is the
+    /// only candidate: if it is disabled the site gets no request and no verdict, and so do all sites behind
+    /// it for as long as no lower-numbered channel has ended. Yields once and runs the watchdog.
     void Connect(const SiteRequest &request, int nextSite);
 
     /// The watchdog: fails every channel that isn't free and whose time has passed.
@@ -55,7 +55,8 @@ public:
     /// Sleeps until an event arrives or the watchdog is due, then runs it. Yields.
     void WaitForChannels();
 
-    int lastErrorSite = SubmissionChannel::noSite; ///< site of the last accepted Error event; nothing reads it
+    int lastErrorSite =
+        SubmissionChannel::noSite; ///< site of the last accepted Error event; nothing reads it
 
 private:
     SubmissionChannel *Candidate();

@@ -6,8 +6,8 @@ using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
-HitCounter::HitCounter(std::unique_ptr<HttpClient> httpClient, const Hosts &outsideHosts, Options &userOptions,
-                       const QString &scratchPath)
+HitCounter::HitCounter(std::unique_ptr<HttpClient> httpClient, const Hosts &outsideHosts,
+                       Options &userOptions, const QString &scratchPath)
     : client(std::move(httpClient)), hosts(outsideHosts), options(userOptions), scratchFile(scratchPath) {
     connect(client.get(), &HttpClient::Connected, this, [this] { client->SendGet(); });
     connect(client.get(), &HttpClient::Closing, this, [this] {

@@ -8,8 +8,9 @@
 
 namespace lanterra {
 
-/// One request a run to a counter of the product owner's, at one address until the first such exchange has ended
-/// and at another from then on. Nothing depends on the answer, and without an address no request is made.
+/// One request a run to a counter of the product owner's, at one address until the first such exchange has
+/// ended and at another from then on. Nothing depends on the answer, and without an address no request is
+/// made.
 class HitCounter : public QObject {
     Q_OBJECT
 
@@ -20,7 +21,8 @@ public:
     /// Begins the request; one of an earlier run that is still under way is given up.
     void Fire();
 
-    /// Deletes the scratch file that the answer went to, and that of an answer still to come when it has come.
+    /// Deletes the scratch file that the answer went to, and that of an answer still to come when it has
+    /// come.
     void RemoveScratchFile();
 
 private:

@@ -43,7 +43,8 @@ void HttpHeader::ReadStatusLine(const QString &line) {
     statusText = line.section(u' ', 1, -1, QString::SectionSkipEmpty).trimmed();
     bool isNumber = false;
     const int number = statusText.simplified().section(u' ', 0, 0).toInt(&isNumber);
-    const bool isStatusLine = isNumber && statusText.at(0).isDigit() && line.startsWith("HTTP/"_L1, Qt::CaseInsensitive);
+    const bool isStatusLine =
+        isNumber && statusText.at(0).isDigit() && line.startsWith("HTTP/"_L1, Qt::CaseInsensitive);
     statusCode = isStatusLine ? std::optional(number) : std::nullopt;
     statusClass = isStatusLine ? ClassOfStatus(number) : QString();
 }

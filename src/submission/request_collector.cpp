@@ -42,7 +42,8 @@ SiteRequest RequestCollector::RequestOfRow(int row, const RequestTemplate &value
     return {name, site.Text(u"Action"_s), query, site.Text(u"Method"_s)};
 }
 
-QString RequestCollector::data_parsiraj_query(QString &query, const QString &name, const RequestTemplate &values) {
+QString RequestCollector::data_parsiraj_query(QString &query, const QString &name,
+                                              const RequestTemplate &values) {
     query = values.Expand(query, [&] { return data_parsiraj_query_kategorije(name); });
     return query;
 }

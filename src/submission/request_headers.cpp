@@ -22,9 +22,7 @@ QByteArray EncodeControls(const QString &text) {
 
 } // namespace
 
-bool IsPost(const QString &method) {
-    return method.compare("post"_L1, Qt::CaseInsensitive) == 0;
-}
+bool IsPost(const QString &method) { return method.compare("post"_L1, Qt::CaseInsensitive) == 0; }
 
 QString RequestTarget(const SiteRequest &request) {
     const bool isGet = request.method.compare("get"_L1, Qt::CaseInsensitive) == 0;

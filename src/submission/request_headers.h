@@ -20,9 +20,10 @@ bool IsPost(const QString &method);
 /// address stands alone. A method that is neither "get" nor "post" thus drops the query.
 QString RequestTarget(const SiteRequest &request);
 
-/// The header lines of a submission in their fixed order and spelling, underscores included, and with POST the body
-/// behind them: what the client sends below the request line. Control characters in the host and in the referring
-/// page are percent-encoded, so that a value can't begin a line of its own; the body goes as it is.
+/// The header lines of a submission in their fixed order and spelling, underscores included, and with POST
+/// the body behind them: what the client sends below the request line. Control characters in the host and in
+/// the referring page are percent-encoded, so that a value can't begin a line of its own; the body goes as it
+/// is.
 QByteArray SubmissionHeaders(const SiteRequest &request, const QString &hostName);
 
 } // namespace lanterra

@@ -10,13 +10,13 @@ namespace lanterra {
 
 /// Expands the templates of sites for one project.
 ///
-/// A template is literal pieces in double quotes joined to placeholder words by " & ". A word stands between two
-/// literals, or at the very end:
+/// A template is literal pieces in double quotes joined to placeholder words by " & ". A word stands between
+/// two literals, or at the very end:
 ///
 ///     "url=" & txtUrlText & "&mail=" & txtEmailText
 ///
-/// It only looks like an expression: expanding is plain replacement of text, ignoring case, in a fixed order. An
-/// unknown word stays in the text, and a template without quotes comes through unchanged.
+/// It only looks like an expression: expanding is plain replacement of text, ignoring case, in a fixed order.
+/// An unknown word stays in the text, and a template without quotes comes through unchanged.
 class RequestTemplate {
 public:
     /// Encodes the values of the project once, for all templates that follow.

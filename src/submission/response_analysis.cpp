@@ -15,13 +15,9 @@ namespace {
 const QString unknownError = u"Error: unknown"_s;
 const QString notAvailable = u"n/a"_s;
 
-bool Holds(const QString &text, QLatin1StringView part) {
-    return text.contains(part, Qt::CaseInsensitive);
-}
+bool Holds(const QString &text, QLatin1StringView part) { return text.contains(part, Qt::CaseInsensitive); }
 
-bool HasStatusLine(const QString &text) {
-    return Holds(text, "HTTP/1."_L1) || Holds(text, "HTTP/0."_L1);
-}
+bool HasStatusLine(const QString &text) { return Holds(text, "HTTP/1."_L1) || Holds(text, "HTTP/0."_L1); }
 
 // The text behind a label up to its line feed, without the CR before it.
 QString LabelledValue(const QString &text, QLatin1StringView label) {
@@ -33,8 +29,9 @@ QString LabelledValue(const QString &text, QLatin1StringView label) {
     return value.endsWith(u'\r') ? value.chopped(1) : value;
 }
 
-// The value of "Location: " up to the CR of its line; nothing without the label or the CR. Found in one step, without
-// the turns of the queue that a walk by characters would take: the yields between the phrases are enough.
+// The value of "Location: " up to the CR of its line; nothing without the label or the CR. Found in one step,
+// without the turns of the queue that a walk by characters would take: the yields between the phrases are
+// enough.
 QString LocationUpToCr(const QString &text, bool *complete) {
     constexpr QLatin1StringView label = "Location: "_L1;
     const qsizetype found = text.indexOf(label, 0, Qt::CaseInsensitive);
@@ -77,8 +74,8 @@ QString ResponseAnalysis::AnalyseResponseHeader(QString text) {
     contentLength = LabelledValue(text, "Content-Length: "_L1);
     if (!IsNumeric(contentLength))
         contentLength = u"0"_s;
-    contentType = Holds(text, "Content-Type: text/html"_L1) ? u"text/html"_s
-                                                            : LabelledValue(text, "Content-Type: "_L1);
+    contentType =
+        Holds(text, "Content-Type: text/html"_L1) ? u"text/html"_s : LabelledValue(text, "Content-Type: "_L1);
     return LeadingNumber(contentLength) > 0 && Holds(contentType, "text/"_L1) ? u"Done"_s : QString();
 }
 

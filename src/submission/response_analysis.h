@@ -7,23 +7,23 @@
 
 namespace lanterra {
 
-/// Judges the first block of a download by its words. No verdict of a run depends on it: those look at the class
-/// of the status alone.
+/// Judges the first block of a download by its words. No verdict of a run depends on it: those look at the
+/// class of the status alone.
 class ResponseAnalysis {
 public:
     explicit ResponseAnalysis(EventQueue &eventQueue);
 
-    /// "Error: " and the first failure phrase that the text holds; "Error: unknown" for a text without a status
-    /// line; "Redirection"; "Done" for a text answer with a length; otherwise the empty text, which is good, too.
-    /// Sets the three values. Yields after each phrase.
+    /// "Error: " and the first failure phrase that the text holds; "Error: unknown" for a text without a
+    /// status line; "Redirection"; "Done" for a text answer with a length; otherwise the empty text, which is
+    /// good, too. Sets the three values. Yields after each phrase.
     QString AnalyseResponseHeader(QString text);
 
     /// "", "Redirection" or "Error: No redirection URL". Only the first line is looked at, so an ordinary
     /// redirection, whose Location stands further down, gives the last.
     QString ReadRedirection(const QString &text);
 
-    /// The redirection target in the header, "" without one or if a failure phrase occurs, and "Error: unknown"
-    /// without a status line. Yields after each phrase.
+    /// The redirection target in the header, "" without one or if a failure phrase occurs, and "Error:
+    /// unknown" without a status line. Yields after each phrase.
     QString ScanLocation(QString text);
 
     QString lastModified;

@@ -19,8 +19,8 @@ bool RunChecks::Pass() {
     return FieldsAreFilled() && CategoriesAreChosen();
 }
 
-// The pane follows the position in the table: phone and fax, 10 and 11, stand among the other data, yet lead to the
-// description; and an empty address is found with the first field, so it leads to the other data.
+// The pane follows the position in the table: phone and fax, 10 and 11, stand among the other data, yet lead
+// to the description; and an empty address is found with the first field, so it leads to the other data.
 bool RunChecks::FieldsAreFilled() {
     const auto fields = BindRequiredFields(project.record);
     const bool urlMissing = IsBlank(project.record.txtURL.Text());
@@ -34,8 +34,8 @@ bool RunChecks::FieldsAreFilled() {
     return true;
 }
 
-// Looked for twice: the first look can yield to the very click that chooses the missing category. The box comes all
-// the same, then without a name.
+// Looked for twice: the first look can yield to the very click that chooses the missing category. The box
+// comes all the same, then without a name.
 bool RunChecks::CategoriesAreChosen() {
     QString selectedNames;
     const ListBox &sites = project.lists.List1;

@@ -6,16 +6,16 @@
 
 namespace lanterra {
 
-/// What must hold before a run. The first thing that doesn't is told in a box, and the pane where it can be mended
-/// is shown.
+/// What must hold before a run. The first thing that doesn't is told in a box, and the pane where it can be
+/// mended is shown.
 class RunChecks {
 public:
     RunChecks(Project &openProject, MainFrame &mainFrame, RequestCollector &requestCollector,
               Dialogs &messageDialogs)
         : project(openProject), frame(mainFrame), collector(requestCollector), dialogs(messageDialogs) {}
 
-    /// Whether every required field is filled in and every selected directory has a category. Gives an empty fax
-    /// number that of the telephone first. Yields.
+    /// Whether every required field is filled in and every selected directory has a category. Gives an empty
+    /// fax number that of the telephone first. Yields.
     bool Pass();
 
 private:

@@ -58,9 +58,7 @@ double SubmissionChannel::SecondsLeft(double limitSeconds) const {
     return static_cast<double>(due - parts.clock.Timer());
 }
 
-bool SubmissionChannel::Expired(double limitSeconds) const {
-    return SecondsLeft(limitSeconds) < 0;
-}
+bool SubmissionChannel::Expired(double limitSeconds) const { return SecondsLeft(limitSeconds) < 0; }
 
 void SubmissionChannel::TimeOut(double limitSeconds) {
     parts.client->Abort();
@@ -73,19 +71,17 @@ void SubmissionChannel::Cancel() {
     free = true;
 }
 
-void SubmissionChannel::mnuAbort_Click() {
-    parts.client->AbortWithError();
-}
+void SubmissionChannel::mnuAbort_Click() { parts.client->AbortWithError(); }
 
-// The mark and the state are turned separately, and the start of a run lowers only the state: a mark left over from
-// the run before shows the opposite from then on. Users of several runs know the entry that way.
+// The mark and the state are turned separately, and the start of a run lowers only the state: a mark left
+// over from the run before shows the opposite from then on. Users of several runs know the entry that way.
 void SubmissionChannel::mnuDisabled_Click() {
     parts.display.disableMark.SetValue(1 - parts.display.disableMark.Value());
     disabled = !disabled;
 }
 
-// Not only in flight: a Connected that was on its way when Cancel came makes the run wait for that channel, which
-// the watchdog frees.
+// Not only in flight: a Connected that was on its way when Cancel came makes the run wait for that channel,
+// which the watchdog frees.
 void SubmissionChannel::OnConnected() {
     free = false;
     parts.display.status.SetCaption(u"connected"_s);
@@ -139,7 +135,8 @@ void SubmissionChannel::OnError() {
 
 void SubmissionChannel::NoteVerdict(Verdict verdict, const QString &reason) {
     const std::optional<int> status = firstChunk ? std::nullopt : header.StatusCode();
-    parts.result.Judge(siteIndex, {verdict, status, parts.client->BodyBytes(), reason}, parts.clock.Elapsed());
+    parts.result.Judge(siteIndex, {verdict, status, parts.client->BodyBytes(), reason},
+                       parts.clock.Elapsed());
 }
 
 void SubmissionChannel::RecordSuccess() {

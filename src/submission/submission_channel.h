@@ -13,9 +13,9 @@
 
 namespace lanterra {
 
-/// One of the five slots that carry one request each. It is in flight while neither `closed` nor `completed`; a Done
-/// or Error that comes at any other time is dropped. Events carry no identity, so a late one that falls on the next
-/// site counts for that site.
+/// One of the five slots that carry one request each. It is in flight while neither `closed` nor `completed`;
+/// a Done or Error that comes at any other time is dropped. Events carry no identity, so a late one that
+/// falls on the next site counts for that site.
 class SubmissionChannel : public QObject {
     Q_OBJECT
 
@@ -29,8 +29,8 @@ public:
         RunResult &result;
         int &lastErrorSite; ///< takes the site of each accepted Error event
         const Clock &clock;
-        /// Set for the one channel that also scans the raw header of an answer, and throws the result away. The
-        /// scan yields, which gives that channel its place in the order of events.
+        /// Set for the one channel that also scans the raw header of an answer, and throws the result away.
+        /// The scan yields, which gives that channel its place in the order of events.
         ResponseAnalysis *headerScan = nullptr;
     };
 
@@ -47,16 +47,16 @@ public:
     /// Takes the site of this name at `listIndex` of List1 and begins its exchange.
     void Claim(const SiteRequest &siteRequest, const QString &name, int listIndex);
 
-    /// Whether the time since dispatch has passed the limit, both in seconds. Whatever came in meanwhile doesn't
-    /// count.
+    /// Whether the time since dispatch has passed the limit, both in seconds. Whatever came in meanwhile
+    /// doesn't count.
     bool Expired(double limitSeconds) const;
     /// Seconds until Expired turns true; negative behind that.
     double SecondsLeft(double limitSeconds) const;
     /// Cuts the exchange off as failed because the limit has passed.
     void TimeOut(double limitSeconds);
 
-    /// Ends the exchange silently, for Cancel, and frees the channel. `closed` and `completed` stay: a channel
-    /// that was cancelled in flight takes no other site in this run.
+    /// Ends the exchange silently, for Cancel, and frees the channel. `closed` and `completed` stay: a
+    /// channel that was cancelled in flight takes no other site in this run.
     void Cancel();
 
     /// "Abort": only asks the client. What changes comes with the Error event that follows.
@@ -64,8 +64,9 @@ public:
     /// "Disable": turns the entry's mark and `disabled` around.
     void mnuDisabled_Click();
 
-    /// Records a failure of the site, once a request. A site whose name is part of the name of one that has failed
-    /// before is not listed and doesn't count; its channel is then closed, but only the watchdog frees it.
+    /// Records a failure of the site, once a request. A site whose name is part of the name of one that has
+    /// failed before is not listed and doesn't count; its channel is then closed, but only the watchdog frees
+    /// it.
     void RecordFailure(const QString &reason);
     /// Adds the site to the successful ones.
     void RecordSuccess();
@@ -73,11 +74,12 @@ public:
     HttpClient &Client() { return *parts.client; }
     bool Ended() const { return closed || completed; }
 
-    bool free = true;       ///< the wait loops count on it: raised by an end or Cancel, lowered by Claim and Connected
-    bool completed = false; ///< an answer was accepted as the end of the request; lowered by Claim
-    bool closed = true;     ///< the request has failed, or the run has just begun; lowered by Claim
-    bool disabled = false;  ///< takes no site; lowered at the start of a run
-    int siteIndex = 0;      ///< List1 index of the site that the channel carries
+    bool free =
+        true; ///< the wait loops count on it: raised by an end or Cancel, lowered by Claim and Connected
+    bool completed = false;      ///< an answer was accepted as the end of the request; lowered by Claim
+    bool closed = true;          ///< the request has failed, or the run has just begun; lowered by Claim
+    bool disabled = false;       ///< takes no site; lowered at the start of a run
+    int siteIndex = 0;           ///< List1 index of the site that the channel carries
     int lastFailedSite = noSite; ///< index of the last failure recorded here
 
 private:

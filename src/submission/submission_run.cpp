@@ -62,9 +62,7 @@ bool SubmissionRun::ModeIsAutomated() {
     return false;
 }
 
-void SubmissionRun::mnuAuto_Click() {
-    modeUnchosen = false;
-}
+void SubmissionRun::mnuAuto_Click() { modeUnchosen = false; }
 
 void SubmissionRun::mnuMultiple_Click() {
     multiChosen = true;
@@ -149,7 +147,8 @@ void SubmissionRun::LockEntries(bool locked) {
 
 void SubmissionRun::CollectRequests() {
     if (!SaveSiteSelection(parts.project, parts.status, parts.queue))
-        parts.result.notStored << u"The project could not be saved: "_s + parts.project.database.Data2.Failure();
+        parts.result.notStored << u"The project could not be saved: "_s +
+                                      parts.project.database.Data2.Failure();
     if (!parts.collector.CollectSubmissionData())
         cancelRequested = true;
     EnsureRecordSource(parts.project.database.Data2, u"Data"_s);
@@ -208,7 +207,8 @@ void SubmissionRun::EndRun() {
     if (!parts.report.WriteSubmissionReport())
         parts.result.notStored << u"The report could not be written: "_s + parts.result.reportFile;
     if (parts.frmSettings.CreateStatistic.Checked() && !parts.statistics.AppendSessionRow(parts.result))
-        parts.result.notStored << u"The statistics could not be stored: "_s + parts.project.database.Data3.Failure();
+        parts.result.notStored << u"The statistics could not be stored: "_s +
+                                      parts.project.database.Data3.Failure();
     if (parts.project.record.Check3.Checked() && !parts.queue.Closing())
         parts.viewer.OpenDocument(parts.result.reportFile);
     if (upgrade)

@@ -18,9 +18,10 @@
 
 namespace lanterra {
 
-/// One pass over the selected sites for one URL: the checks, the collection, the dispatch over the channels, the
-/// end. There is one run at a time, and the press that began it stays on the stack until its end. Meanwhile events
-/// of all kinds come in at its yields, so the flags are the only way in which handlers talk to it.
+/// One pass over the selected sites for one URL: the checks, the collection, the dispatch over the channels,
+/// the end. There is one run at a time, and the press that began it stays on the stack until its end.
+/// Meanwhile events of all kinds come in at its yields, so the flags are the only way in which handlers talk
+/// to it.
 class SubmissionRun {
 public:
     struct Parts {
@@ -52,12 +53,12 @@ public:
     void SetModes(SubmissionModes *submissionModes) { modes = submissionModes; }
     void SetUpgradeCheck(UpgradeCheck *upgradeCheck) { upgrade = upgradeCheck; }
 
-    /// "SUBMIT": starts a run and returns at its end. During a run it starts nothing; it releases Pause and makes
-    /// a job over several URLs skip one. Yields.
+    /// "SUBMIT": starts a run and returns at its end. During a run it starts nothing; it releases Pause and
+    /// makes a job over several URLs skip one. Yields.
     void cmdStart_Click();
 
-    /// Entries of the popup that cmdStart shows. The last two do their work at once and leave modeUnchosen as it
-    /// is, so that no run follows. They yield.
+    /// Entries of the popup that cmdStart shows. The last two do their work at once and leave modeUnchosen as
+    /// it is, so that no run follows. They yield.
     void mnuAuto_Click();
     void mnuMultiple_Click();
     void mnuTop9_Click();
@@ -66,13 +67,13 @@ public:
     /// "multiple": shows the form of several URLs. Yields.
     void SSCommand7_Click() { parts.forms.ShowModal(ModalForm::Multi); }
 
-    /// "Pause": holds the dispatch until the next press of cmdStart. While idle that press then makes its whole
-    /// run inside this call. Channels in flight go on, and the watchdog stands still. Yields.
+    /// "Pause": holds the dispatch until the next press of cmdStart. While idle that press then makes its
+    /// whole run inside this call. Channels in flight go on, and the watchdog stands still. Yields.
     void Command1_Click();
 
-    /// "Cancel": aborts all channels; sites without a verdict stay without one. A press of cmdStart takes it back,
-    /// also the one that releases Pause: the channels that had ended then take the sites that are left. Yields for
-    /// its popup during a job.
+    /// "Cancel": aborts all channels; sites without a verdict stay without one. A press of cmdStart takes it
+    /// back, also the one that releases Pause: the channels that had ended then take the sites that are left.
+    /// Yields for its popup during a job.
     void cmdCancel_Click();
     /// Entries of the popup that cmdCancel shows during a job over several URLs.
     void mnuCancelCurrent_Click() { ++urlCounter; }
@@ -87,9 +88,10 @@ public:
     bool RunActive() const { return runActive; }
 
     // The state that a job over several URLs shares with the run.
-    int urlCounter = 0;        ///< number of the current URL, raised at each close of a run
-    bool multiIdle = true;     ///< no job drives the run
-    bool multiActive = false;  ///< a job has set reportFolder and reportFile, which stay; lowered at the end of a run
+    int urlCounter = 0;    ///< number of the current URL, raised at each close of a run
+    bool multiIdle = true; ///< no job drives the run
+    bool multiActive =
+        false; ///< a job has set reportFolder and reportFile, which stay; lowered at the end of a run
     bool multiChosen = false;  ///< the popup's entry for several URLs was taken
     bool entireCancel = false; ///< the job ends behind the current URL
     bool modeUnchosen = false; ///< no entry of the popup was taken yet
@@ -123,10 +125,11 @@ private:
     bool runActive = false;
     bool cancelRequested = false;
     bool pauseReleased = true;
-    bool saveRefused = false; ///< would stop the run; nothing raises it, so a cancelled Save As lets the run go on
-    int phase = 0;            ///< 1 while sites are dispatched, 2 when all are done, 0 when closed; only written
-    int nextSite = 0;         ///< index into List1
-    float startTime = 0;      ///< Clock::Timer at the start of dispatch
+    bool saveRefused =
+        false;           ///< would stop the run; nothing raises it, so a cancelled Save As lets the run go on
+    int phase = 0;       ///< 1 while sites are dispatched, 2 when all are done, 0 when closed; only written
+    int nextSite = 0;    ///< index into List1
+    float startTime = 0; ///< Clock::Timer at the start of dispatch
 };
 
 } // namespace lanterra

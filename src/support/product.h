@@ -5,8 +5,6 @@
 namespace lanterra {
 
 /// The web address of the product. Names under lanterra.example are reserved for its maker.
-inline QString ProductAddress() {
-    return QStringLiteral("https://www.lanterra.example/");
-}
+inline QString ProductAddress() { return QStringLiteral("https://www.lanterra.example/"); }
 
 } // namespace lanterra

@@ -109,7 +109,8 @@ TEST_F(MaintenanceTest, RepairGivesUpOnAFileWithoutReadableTables) {
 
 TEST_F(MaintenanceTest, ACopyIntoAFolderThatIsMissingFailsAndLeavesNothingAnywhere) {
     const QStringList before = QDir().entryList(QDir::Files | QDir::Hidden);
-    EXPECT_FALSE(CreateDatabase(QStringLiteral("/no/such/folder/new.db"), {QStringLiteral("CREATE TABLE t (f)")}));
+    EXPECT_FALSE(
+        CreateDatabase(QStringLiteral("/no/such/folder/new.db"), {QStringLiteral("CREATE TABLE t (f)")}));
     EXPECT_EQ(QDir().entryList(QDir::Files | QDir::Hidden), before);
 }
 

@@ -8,8 +8,8 @@
 
 namespace lanterra {
 
-/// Message boxes without buttons to press: OK boxes are recorded and pass; every question must have been answered
-/// beforehand, and one that wasn't fails the test.
+/// Message boxes without buttons to press: OK boxes are recorded and pass; every question must have been
+/// answered beforehand, and one that wasn't fails the test.
 class FakeDialogs final : public Dialogs {
 public:
     BoxAnswer Show(const MessageBox &box) override {
@@ -35,7 +35,8 @@ public:
     std::vector<FileDialog> fileDialogs;
 
 private:
-    template <class T> static T Next(std::deque<T> &prepared, const QString &question) {
+    template <class T>
+    static T Next(std::deque<T> &prepared, const QString &question) {
         if (prepared.empty())
             throw std::logic_error("unexpected question: " + question.toStdString());
         T answer = prepared.front();

@@ -8,9 +8,7 @@ namespace {
 constexpr int tooManyIdleWaits = 10000; ///< a loop that waits this often for nothing will never end
 }
 
-void ScriptedEventQueue::Yield() {
-    RunDue();
-}
+void ScriptedEventQueue::Yield() { RunDue(); }
 
 void ScriptedEventQueue::Wait(std::chrono::milliseconds atMost) {
     if (RunDue() || closing) {

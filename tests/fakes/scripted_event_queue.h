@@ -9,8 +9,9 @@
 
 namespace lanterra {
 
-/// A queue without time. Steps that a test has posted run at the next yield; a step can also be tied to the n-th
-/// yield from now. A wait with nothing to run moves the clock on by the time it was given instead of sleeping.
+/// A queue without time. Steps that a test has posted run at the next yield; a step can also be tied to the
+/// n-th yield from now. A wait with nothing to run moves the clock on by the time it was given instead of
+/// sleeping.
 class ScriptedEventQueue final : public EventQueue {
 public:
     using Step = std::function<void()>;

@@ -48,7 +48,8 @@ private:
         if (!socket.waitForEncrypted(patience))
             return;
         stands.release();
-        QMetaObject::invokeMethod(qApp, [] {}, Qt::QueuedConnection); // wakes the event queue of the test
+        QMetaObject::invokeMethod(
+            qApp, [] {}, Qt::QueuedConnection); // wakes the event queue of the test
         if (!go.tryAcquire(1, patience))
             return;
         socket.write(answer);

@@ -50,7 +50,8 @@ TEST_F(EntryHandlersTest, WarnsOfLongTextsAndLeavesThem) {
 TEST_F(EntryHandlersTest, ReturnLeadsThroughThePageAndRoundTheContactBoxes) {
     const TextBox *focused = nullptr;
     for (const ProjectRecord::TextField &field : record.TextFields())
-        QObject::connect(field.box, &TextBox::FocusRequested, field.box, [&focused, &field] { focused = field.box; });
+        QObject::connect(field.box, &TextBox::FocusRequested, field.box,
+                         [&focused, &field] { focused = field.box; });
     const QList<std::pair<const TextBox *, const TextBox *>> steps{
         {&record.txtURL, &record.txtTitle},     {&record.txtTitle, &record.txtKey[0]},
         {&record.txtKey[4], &record.txtKey[5]}, {&record.txtKey[5], &record.txtDesc},

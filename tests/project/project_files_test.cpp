@@ -50,7 +50,8 @@ TEST_F(ProjectFilesTest, CleaningNeverLeadsToAnotherProjectsFile) {
     EXPECT_EQ(Path().Base, InProjects(u"a+b.rts"_s));
     EXPECT_EQ(Path().ProjectName, u"ab"_s);
 
-    Files().OpenProject(InProjects(u"a+b.rts"_s)); // an existing file keeps its name, so that a save reaches it
+    Files().OpenProject(
+        InProjects(u"a+b.rts"_s)); // an existing file keeps its name, so that a save reaches it
     EXPECT_EQ(Path().Base, InProjects(u"a+b.rts"_s));
     EXPECT_TRUE(Files().SaveProject(QString()).stored);
 }
@@ -132,9 +133,7 @@ public:
 TEST_F(ProjectFilesTest, OnlyAGreaterMasterVersionStartsTheImport) {
     CountingImport import;
     Files().SetImport(&import);
-    const struct {
-        int version, calls;
-    } masters[] = {{1, 0}, {0, 0}, {2, 1}};
+    const struct { int version, calls; } masters[] = {{1, 0}, {0, 0}, {2, 1}};
     for (const auto &master : masters) {
         import.calls = 0;
         SiteDatabaseBuilder builder;

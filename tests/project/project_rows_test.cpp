@@ -31,8 +31,9 @@ protected:
         EXPECT_TRUE(table.Refresh()) << table.Failure().toStdString();
         QStringList rows;
         for (bool here = table.MoveFirst(); here; here = table.MoveNext())
-            rows.append(QStringList{table.Text(u"txtURL"_s), table.Text(u"txtTitle"_s), table.Text(u"txtEmail"_s)}
-                            .join(u'|'));
+            rows.append(
+                QStringList{table.Text(u"txtURL"_s), table.Text(u"txtTitle"_s), table.Text(u"txtEmail"_s)}
+                    .join(u'|'));
         return rows;
     }
     QStringList LoadedUrls() {
@@ -62,7 +63,8 @@ TEST_F(ProjectRowsTest, TheFirstSaveOfSeveralUrlsHoldsTheFirstOneTwice) {
                                    u"http://b.example/|Title of http://b.example/|"_s}));
     Reload();
     EXPECT_TRUE(Record().MultiUrlMode());
-    EXPECT_EQ(LoadedUrls(), (QStringList{u"http://a.example/"_s, u"http://a.example/"_s, u"http://b.example/"_s}));
+    EXPECT_EQ(LoadedUrls(),
+              (QStringList{u"http://a.example/"_s, u"http://a.example/"_s, u"http://b.example/"_s}));
     EXPECT_EQ(Record().MultiUrlUpper, 2);
 }
 
@@ -76,7 +78,8 @@ TEST_F(ProjectRowsTest, LaterSavesHoldEachUrlOnce) {
                                    u"http://d.example/|Title of http://d.example/|"_s,
                                    u"http://e.example/|Title of http://e.example/|"_s}));
     Reload();
-    EXPECT_EQ(LoadedUrls(), (QStringList{u"http://c.example/"_s, u"http://d.example/"_s, u"http://e.example/"_s}));
+    EXPECT_EQ(LoadedUrls(),
+              (QStringList{u"http://c.example/"_s, u"http://d.example/"_s, u"http://e.example/"_s}));
     EXPECT_EQ(Record().HScroll1.Maximum(), 2);
     EXPECT_EQ(Record().HScroll1.Value(), 0);
     EXPECT_EQ(Record().txtURL.Text(), u"http://c.example/"_s);

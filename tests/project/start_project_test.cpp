@@ -25,7 +25,7 @@ protected:
 
 TEST_F(StartProjectTest, AsksForANameUntilOneIsGiven) {
     dialogs.lines = {QString(), u"  "_s, u".."_s, u"?:/"_s, u"My: shop"_s};
-    Start().ChooseStartProject(QString(), queue);
+    Start().ChooseStartProject(QString());
     EXPECT_EQ(forms.shown, std::vector{ModalForm::ProjectDialog});
     EXPECT_EQ(Path().Base, InProjects(u"My shop.rts"_s));
     EXPECT_TRUE(QFile::exists(Path().Base));
@@ -45,7 +45,7 @@ TEST_F(StartProjectTest, DoesNotReplaceAProjectWithoutAsking) {
     Path().Base.clear();
     dialogs.lines = {u"Shop"_s, u"Other"_s};
     dialogs.answers = {BoxAnswer::No};
-    Start().ChooseStartProject(QString(), queue);
+    Start().ChooseStartProject(QString());
     EXPECT_EQ(Path().Base, InProjects(u"Other.rts"_s));
     program->files.OpenProject(InProjects(u"Shop.rts"_s));
     EXPECT_EQ(program->project.record.txtTitle.Text(), u"Kept"_s);
@@ -54,7 +54,7 @@ TEST_F(StartProjectTest, DoesNotReplaceAProjectWithoutAsking) {
 TEST_F(StartProjectTest, TakesAnExistingFileOfTheCommandLine) {
     GivenOpenProject(u"Shop"_s);
     Path().Base.clear();
-    Start().ChooseStartProject(InProjects(u"Shop.rts"_s), queue);
+    Start().ChooseStartProject(InProjects(u"Shop.rts"_s));
     EXPECT_EQ(Path().ProjectName, u"Shop"_s);
     EXPECT_TRUE(forms.shown.empty());
 }

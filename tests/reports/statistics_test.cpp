@@ -41,7 +41,7 @@ TEST_F(StatisticsTest, ShowsSessionsWithTheirTotals) {
     EXPECT_TRUE(Cell(0, 0).contains(u", "_s));
     EXPECT_NE(Cell(0, 0), Cell(1, 0));
     const QStringList first{u"http://www.page.example/"_s, u"x"_s, u"2"_s, u"2"_s, u"0"_s, u"7"_s,
-                            u"Alta\r\nBeta\r\n"_s, u""_s};
+                            u"Alta\r\nBeta\r\n"_s,         u""_s};
     for (int column = 1; column < SessionGrid::fieldCount; ++column)
         EXPECT_EQ(Cell(0, column), first.at(column - 1));
     EXPECT_EQ(Cell(1, 6), u"-86000"_s);

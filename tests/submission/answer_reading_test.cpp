@@ -15,12 +15,14 @@ TEST(HttpHeaderTest, ReadsStatusAndLocation) {
         QString raw, statusClass, location;
     } cases[] = {
         {u"HTTP/1.1 200 OK\r\n\r\n"_s, u"Success"_s, u""_s},
-        {u"HTTP/1.0 302 Found\r\nlocation:  /next \r\nLocation: /second\r\n\r\n"_s, u"Redirection"_s, u"/next"_s},
-        {u"HTTP/1.1 301 Moved\nLOCATION: http://a.example/\n continued\n\nLocation: /body"_s, u"Redirection"_s,
-         u"http://a.example/ continued"_s},
+        {u"HTTP/1.0 302 Found\r\nlocation:  /next \r\nLocation: /second\r\n\r\n"_s, u"Redirection"_s,
+         u"/next"_s},
+        {u"HTTP/1.1 301 Moved\nLOCATION: http://a.example/\n continued\n\nLocation: /body"_s,
+         u"Redirection"_s, u"http://a.example/ continued"_s},
         {u"HTTP/1.1 404\r\nX: Location: /no\r\n\r\nLocation: /body\r\n"_s, u"Client Error"_s, u""_s},
         {u"HTTP/1.1 503 Busy"_s, u"Server Error"_s, u""_s},
-        {u"HTTP/1.1 404\tNot Found\r\n\r\n"_s, u"Client Error"_s, u""_s}, // which the answer reader takes, too
+        {u"HTTP/1.1 404\tNot Found\r\n\r\n"_s, u"Client Error"_s,
+         u""_s}, // which the answer reader takes, too
         {u"HTTP/1.1 100 Continue\r\n\r\n"_s, u"Informational"_s, u""_s},
         {u"HTTP/1.1 999 Odd\r\n\r\n"_s, u""_s, u""_s},
         {u"hello 404 body"_s, u""_s, u""_s},
@@ -89,7 +91,8 @@ TEST_F(ResponseAnalysisTest, ReadsARedirectionFromTheFirstLineOnly) {
 }
 
 TEST_F(ResponseAnalysisTest, ScansTheWholeHeaderForALocation) {
-    EXPECT_EQ(analysis.ScanLocation(u"HTTP/1.1 302 Found\r\nA: b\r\nlocation: /there\r\n\r\n"_s), u"/there"_s);
+    EXPECT_EQ(analysis.ScanLocation(u"HTTP/1.1 302 Found\r\nA: b\r\nlocation: /there\r\n\r\n"_s),
+              u"/there"_s);
     EXPECT_EQ(analysis.ScanLocation(u"HTTP/1.1 200 OK\r\n\r\n"_s), QString());
     EXPECT_EQ(analysis.ScanLocation(u"HTTP/1.1 404 Not Found\r\nLocation: /x\r\n"_s), QString());
     EXPECT_EQ(analysis.ScanLocation(u"no header"_s), u"Error: unknown"_s);

@@ -63,9 +63,9 @@ TEST_F(ChannelBankTest, ShowsWhatAChannelDoes) {
 TEST_F(ChannelBankTest, JudgesByTheStatusClassAlone) {
     GivenSites(Numbered(1));
     const QList<std::pair<QByteArray, bool>> answers{
-        {"200 OK", true},        {"204 No Content", true}, {"302 Found", true},      {"304 Not Modified", true},
-        {"400 Bad", false},      {"499 Odd", false},       {"500 Broken", false},    {"599 Odd", false},
-        {"600 Beyond", true},    {"200 Not Found", true}};
+        {"200 OK", true},     {"204 No Content", true}, {"302 Found", true},   {"304 Not Modified", true},
+        {"400 Bad", false},   {"499 Odd", false},       {"500 Broken", false}, {"599 Odd", false},
+        {"600 Beyond", true}, {"200 Not Found", true}};
     for (const auto &[status, good] : answers) {
         EverySiteAnswers(status);
         PressSubmit();
@@ -83,7 +83,8 @@ TEST_F(ChannelBankTest, ARedirectionIsASuccessWithAPageOfOurOwn) {
     PressSubmit();
     EXPECT_EQ(Successful().size(), 2);
     const QString page =
-        u"<html><head><title>Your entry has been submitted! </title></head><body bgcolor=#FFFFFF text=#000000>"
+        u"<html><head><title>Your entry has been submitted! </title></head><body bgcolor=#FFFFFF "
+        u"text=#000000>"
         u"<center><h1>Your entry has been submitted! </h1><a href=%1>%2</a></body></html>\r\n"_s;
     EXPECT_EQ(ReadPage(u"Site 1."_s), page.arg(u"http://next.example/a?b=c"_s, u"Site 1."_s));
     EXPECT_EQ(ReadPage(u"Site 2."_s), page.arg(QString(), u"Site 2."_s));

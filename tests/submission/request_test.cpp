@@ -47,7 +47,8 @@ TEST_F(RequestTemplateTest, IgnoresCaseAndReplacesEveryOccurrence) {
 }
 
 TEST_F(RequestTemplateTest, AsksForTheCategoryOnceAShape) {
-    EXPECT_EQ(Expand(u"\"c=\" & CCCAAATTT & \"&d=\" & CCCAAATTT & \"&e=\" & CCCAAATTT"_s), u"c=Arts&d=Arts&e=Arts"_s);
+    EXPECT_EQ(Expand(u"\"c=\" & CCCAAATTT & \"&d=\" & CCCAAATTT & \"&e=\" & CCCAAATTT"_s),
+              u"c=Arts&d=Arts&e=Arts"_s);
     EXPECT_EQ(categoriesAsked, 2);
 }
 
@@ -78,7 +79,8 @@ TEST(RequestHeadersTest, WritesTheFixedLinesInTheirOrder) {
 
 TEST(RequestHeadersTest, PutsThePostBodyBehindItsLengthInBytes) {
     // One byte a character: the letter outside the code page becomes one "?", the pair of surrogates too.
-    const SiteRequest request{u"Site"_s, u"http://a.example/add"_s, u"t=\u20ac\u0416\U0001F600&u=\r\nX: y"_s, u"POST"_s};
+    const SiteRequest request{u"Site"_s, u"http://a.example/add"_s, u"t=\u20ac\u0416\U0001F600&u=\r\nX: y"_s,
+                              u"POST"_s};
     const QByteArray headers = SubmissionHeaders(request, u"a.example"_s);
     EXPECT_TRUE(headers.endsWith("REFERER: http://a.example/add\r\n"
                                  "CONTENT-TYPE: application/x-www-form-urlencoded\r\n"

@@ -35,14 +35,18 @@ protected:
 
     void PressSubmit() { program->run.cmdStart_Click(); }
 
-    QStringList Successful() const { return Names(program->result.SuccessfulNames, Result().SuccessfulCount()); }
+    QStringList Successful() const {
+        return Names(program->result.SuccessfulNames, Result().SuccessfulCount());
+    }
     QStringList Failed() const { return Names(program->result.FailedNames, Result().FailedCount()); }
     QString Site(int channel) const { return Form().channels.at(Index(channel)).site.Caption(); }
     QString Status(int channel) const { return Form().channels.at(Index(channel)).status.Caption(); }
     ButtonPicture Picture(int channel) const { return Form().channels.at(Index(channel)).button.Picture(); }
     const RunResult &Result() const { return program->result; }
     const SubmitForm &Form() const { return program->submitForm; }
-    const SiteOutcome &Outcome(int site) const { return Result().outcomes.at(static_cast<std::size_t>(site)); }
+    const SiteOutcome &Outcome(int site) const {
+        return Result().outcomes.at(static_cast<std::size_t>(site));
+    }
     SubmissionRun &Run() { return program->run; }
     ProjectRecord &Record() { return program->project.record; }
     ListBox &List1() { return program->project.lists.List1; }

@@ -62,7 +62,8 @@ TEST_F(SubmissionRunTest, RefusesAProjectWithAnEmptyFieldAndShowsItsPane) {
         {record.txtURL, u""_s, Pane::FrameOtherData},
         {record.txtEmail, u" "_s, Pane::FrameOtherData},
         {record.txtZip, u""_s, Pane::FrameOtherData},
-        {record.txtPhone, u" "_s, Pane::FrameDescription}, // phone stands among the other data, the pane is told
+        {record.txtPhone, u" "_s,
+         Pane::FrameDescription}, // phone stands among the other data, the pane is told
         {record.txtTitle, u""_s, Pane::FrameDescription},
         {record.txtKey[5], u" "_s, Pane::FrameDescription},
         {record.txtLimit, u""_s, Pane::FrameDescription},
@@ -98,8 +99,11 @@ TEST_F(SubmissionRunTest, AnEmptyDescriptionIsNoObstacleAndFaxTakesThePhone) {
 TEST_F(SubmissionRunTest, CorrectsLimitAndSubject) {
     GivenSites(Numbered(1));
     EverySiteAnswers("200 OK");
-    const QList<std::pair<QString, QString>> limits{
-        {u"5000abc"_s, u"1000"_s}, {u"1001"_s, u"1000"_s}, {u"12 s"_s, u"45"_s}, {u"abc"_s, u"45"_s}, {u" 7 "_s, u" 7 "_s}};
+    const QList<std::pair<QString, QString>> limits{{u"5000abc"_s, u"1000"_s},
+                                                    {u"1001"_s, u"1000"_s},
+                                                    {u"12 s"_s, u"45"_s},
+                                                    {u"abc"_s, u"45"_s},
+                                                    {u" 7 "_s, u" 7 "_s}};
     for (const auto &[typed, used] : limits) {
         Record().txtLimit.SetText(typed);
         Record().Combo2.SetText(u"business"_s);
@@ -138,7 +142,8 @@ TEST_F(SubmissionRunTest, ARunWithoutSelectedSitesGoesThroughAllSteps) {
     EXPECT_EQ(Result().NotSelectedCount(), 3);
     EXPECT_EQ(Form().Label29.Caption(), u"0"_s);
     EXPECT_TRUE(QFile::exists(Result().reportFile));
-    EXPECT_TRUE(QFile::exists(Result().reportFolder + u".htm"_s)); // the entry behind the list has a page, too
+    EXPECT_TRUE(
+        QFile::exists(Result().reportFolder + u".htm"_s)); // the entry behind the list has a page, too
 }
 
 TEST_F(SubmissionRunTest, ADismissedPopupOrAnotherModeStartsNothing) {
@@ -427,7 +432,9 @@ TEST_F(SubmissionRunTest, AProjectFileThatIsGoneFailsEverySiteUnderItsName) {
     GivenSites({u"Alta"_s, u"Beta"_s});
     QFile::remove(program->project.path.Base);
     for (int channel = 1; channel <= channelCount; ++channel)
-        Client(channel).onConnect = [this, channel](FakeHttpClient &) { queue.Post([this, channel] { Fail(channel); }); };
+        Client(channel).onConnect = [this, channel](FakeHttpClient &) {
+            queue.Post([this, channel] { Fail(channel); });
+        };
     PressSubmit();
     EXPECT_EQ(Failed(), (QStringList{u"Alta"_s, u"Beta"_s}));
     EXPECT_FALSE(Result().notStored.isEmpty());

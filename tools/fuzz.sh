@@ -9,12 +9,16 @@ export build=$1 seconds=$2
 # The targets write many small files, which need no disk.
 [ -w /dev/shm ] && export TMPDIR=/dev/shm
 export UBSAN_OPTIONS=print_stacktrace=1
+# Freed blocks that the sanitizer holds back, and what breaks its heap into pieces, add up over a night. That is no
+# finding, so the limit lies high; one large block is.
+export ASAN_OPTIONS=quarantine_size_mb=32
 
 fuzz_one() {
     local name=$1 log=$build/logs/$1.txt words=()
     [ -e "fuzz/dictionaries/$name.txt" ] && words=("-dict=fuzz/dictionaries/$name.txt")
     mkdir -p "$build/corpus/$name"
-    if "$build/bin/fuzz_$name" -max_total_time="$seconds" -timeout=20 -print_final_stats=1 -max_len=20000 \
+    if "$build/bin/fuzz_$name" -max_total_time="$seconds" -print_final_stats=1 \
+        -timeout=20 -rss_limit_mb=4096 -malloc_limit_mb=256 -max_len=20000 \
         "-artifact_prefix=$build/findings/$name-" "${words[@]}" \
         "$build/corpus/$name" "fuzz/corpus/$name" >"$log" 2>&1; then
         echo "$name: $(awk '/number_of_executed_units/ {print $2}' "$log") executions, no finding"

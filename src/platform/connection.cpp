@@ -3,7 +3,6 @@
 #include <QNetworkProxy>
 #include <QSslConfiguration>
 #include <QSslSocket>
-#include <QTimer>
 #include <utility>
 
 namespace lanterra {
@@ -14,7 +13,10 @@ constexpr qint64 blockSize = 64LL * 1024; ///< also what the socket may hold bac
 
 Connection::Connection(const TargetAddress &address, const ProxyAddress &proxyAddress,
                        const QList<QSslCertificate> &authorities)
-    : server(address), proxy(proxyAddress), trusted(authorities) {}
+    : server(address), proxy(proxyAddress), trusted(authorities) {
+    retry.setSingleShot(true);
+    connect(&retry, &QTimer::timeout, this, &Connection::Open);
+}
 
 Connection::~Connection() {
     if (socket)
@@ -110,7 +112,7 @@ void Connection::TakeError(QAbstractSocket::SocketError error) {
     // The socket gives up connecting after 30 seconds. How long a server is waited for is the caller's
     // matter.
     if (stage == Stage::Connecting && error == QAbstractSocket::SocketTimeoutError) {
-        QTimer::singleShot(0, this, &Connection::Open);
+        retry.start();
         return;
     }
     if (stage == Stage::Standing)

@@ -8,6 +8,7 @@
 
 #include <QSslCertificate>
 #include <QTcpSocket>
+#include <QTimer>
 #include <memory>
 
 class QSslSocket;
@@ -76,6 +77,7 @@ private:
     const ProxyAddress proxy;
     const QList<QSslCertificate> trusted;
     std::unique_ptr<QTcpSocket> socket;
+    QTimer retry;              ///< of connecting, at the next turn of the event queue
     QSslSocket *tls = nullptr; ///< socket, if the server is https
     ProxyTunnel tunnel;
     SocketTail tail;

@@ -16,4 +16,9 @@ void Control::SetVisible(bool on) {
     emit VisibleChanged(on);
 }
 
+void AddToForm(QObject &form, QObject &control, const QString &name) {
+    control.setObjectName(name);
+    control.setParent(&form);
+}
+
 } // namespace lanterra

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 namespace lanterra {
 
@@ -29,5 +30,9 @@ private:
     bool enabled = true;
     bool visible = true;
 };
+
+/// Puts a control on its form, under the name by which a face looks for it among the form's children. Either
+/// may be destroyed first if the control is a member of the form.
+void AddToForm(QObject &form, QObject &control, const QString &name);
 
 } // namespace lanterra

@@ -4,6 +4,8 @@ using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
+MainFrame::MainFrame() { AddToForm(*this, Notice, u"Notice"_s); }
+
 QString MainFrame::Caption() const { return u"Zephyrine Lanterra 2 - "_s + projectName; }
 
 void MainFrame::SetProjectName(const QString &name) {

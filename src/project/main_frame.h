@@ -26,6 +26,8 @@ class MainFrame : public QObject {
     Q_OBJECT
 
 public:
+    MainFrame();
+
     /// The caption is the product's name followed by the project's.
     QString Caption() const;
     void SetProjectName(const QString &name);

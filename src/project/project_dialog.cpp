@@ -19,6 +19,10 @@ ProjectDialog::ProjectDialog(ProjectPath &projectPath, ProjectFiles &projectFile
                              CheckBox &loadLastProject, Dialogs &fileDialogs)
     : path(projectPath), files(projectFiles), recent(recentFile), settingsBox(loadLastProject),
       dialogs(fileDialogs) {
+    AddToForm(*this, Option1, u"Option1"_s);
+    AddToForm(*this, Option2, u"Option2"_s);
+    AddToForm(*this, List1, u"List1"_s);
+    AddToForm(*this, LoadLastProject, u"LoadLastProject"_s);
     connect(&Option1, &CheckBox::ValueChanged, this, [this](int value) { Option2.SetValue(1 - value); });
     connect(&Option2, &CheckBox::ValueChanged, this, [this](int value) { Option1.SetValue(1 - value); });
 }

@@ -19,6 +19,11 @@ const QString projectFilter = u"Lanterra files (*.rts)|*.rts"_s;
 } // namespace
 
 ProjectFiles::ProjectFiles(const Parts &theParts) : parts(theParts) {
+    AddToForm(*this, mnuFileNew, u"mnuFileNew"_s);
+    AddToForm(*this, mnuFileOpen, u"mnuFileOpen"_s);
+    AddToForm(*this, mnuFileSaveAs, u"mnuFileSaveAs"_s);
+    for (std::size_t item = 0; item < mnuFileMRU.size(); ++item)
+        AddToForm(*this, mnuFileMRU[item], u"mnuFileMRU%1"_s.arg(item + 1));
     connect(&parts.recent, &RecentFile::Changed, this, &ProjectFiles::ShowRecentFiles);
     ShowRecentFiles({});
 }

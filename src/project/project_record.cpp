@@ -45,12 +45,12 @@ void ProjectRecord::ListFields() {
 
 void ProjectRecord::NameControls() {
     for (const TextField &field : textFields)
-        field.box->setObjectName(field.name);
+        AddToForm(*this, *field.box, field.name);
     for (const CheckField &field : checkFields)
-        field.box->setObjectName(field.name);
-    txtName.setObjectName(u"txtName"_s);
-    HScroll1.setObjectName(u"HScroll1"_s);
-    SSCommand7.setObjectName(u"SSCommand7"_s);
+        AddToForm(*this, *field.box, field.name);
+    AddToForm(*this, txtName, u"txtName"_s);
+    AddToForm(*this, HScroll1, u"HScroll1"_s);
+    AddToForm(*this, SSCommand7, u"SSCommand7"_s);
 }
 
 // Keeps the table current while a person types. During a load the address stays out of it, but the other

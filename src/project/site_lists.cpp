@@ -16,12 +16,12 @@ void FillFromResource(ListBox &list, const QString &resource) {
 } // namespace
 
 SiteLists::SiteLists() {
-    List1.setObjectName(u"List1"_s);
-    List2.setObjectName(u"List2"_s);
-    List3.setObjectName(u"List3"_s);
-    List5.setObjectName(u"List5"_s);
-    lstTopEngines.setObjectName(u"lstTopEngines"_s);
-    lblSelected.setObjectName(u"lblSelected"_s);
+    AddToForm(*this, List1, u"List1"_s);
+    AddToForm(*this, List2, u"List2"_s);
+    AddToForm(*this, List3, u"List3"_s);
+    AddToForm(*this, List5, u"List5"_s);
+    AddToForm(*this, lstTopEngines, u"lstTopEngines"_s);
+    AddToForm(*this, lblSelected, u"lblSelected"_s);
     FillFromResource(List5, u":/project/semi_automated_sites.txt"_s);
     FillFromResource(lstTopEngines, u":/project/top_engines.txt"_s);
     for (const ListBox *list : {&List1, &List5, &lstTopEngines})

@@ -6,6 +6,8 @@ using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
+StatusForm::StatusForm() { AddToForm(*this, Label1, u"Label1"_s); }
+
 void StatusForm::Show(const QString &text, int newMaximum) {
     if (depth++ > 0)
         waiting.push_back({Label1.Caption(), maximum, value, StatusCancel, visible});

@@ -12,6 +12,8 @@ class StatusForm : public QObject {
     Q_OBJECT
 
 public:
+    StatusForm();
+
     /// Begins a job: shows the form without blocking and lowers the cancel flag. `maximum` below 1 counts
     /// as 1.
     void Show(const QString &text, int maximum);

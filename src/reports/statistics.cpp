@@ -21,6 +21,13 @@ QString JoinedNames(const NameList &names, int count) {
 Statistics::Statistics(Project &openProject, MainFrame &mainFrame, Dialogs &messageDialogs,
                        EventQueue &eventQueue, const Clock &systemClock)
     : project(openProject), frame(mainFrame), dialogs(messageDialogs), queue(eventQueue), clock(systemClock) {
+    AddToForm(*this, Label42, u"Label42"_s);
+    AddToForm(*this, Label44, u"Label44"_s);
+    AddToForm(*this, Label45, u"Label45"_s);
+    AddToForm(*this, Label46, u"Label46"_s);
+    AddToForm(*this, Label47, u"Label47"_s);
+    AddToForm(*this, Command10, u"Command10"_s);
+    AddToForm(*this, DBGrid1, u"DBGrid1"_s);
 }
 
 bool Statistics::AppendSessionRow(const RunResult &result) {

@@ -9,6 +9,13 @@ namespace lanterra {
 SettingsForm::SettingsForm(Options &storedOptions, WindowSettings &window, Dialogs &messageDialogs)
     : options(storedOptions), windowSettings(window), dialogs(messageDialogs) {
     SetVisible(false);
+    AddToForm(*this, chkProxy, u"chkProxy"_s);
+    AddToForm(*this, Text1, u"Text1"_s);
+    AddToForm(*this, Text2, u"Text2"_s);
+    AddToForm(*this, cmdOK, u"cmdOK"_s);
+    AddToForm(*this, cmdCancel, u"cmdCancel"_s);
+    for (const BoxOption &each : Boxes())
+        AddToForm(*this, each.box, each.option.name.toString());
 }
 
 std::array<SettingsForm::BoxOption, 4> SettingsForm::Boxes() {

@@ -15,6 +15,12 @@ constexpr qsizetype longestIgnoredPath = 6; ///< characters, with the blank at t
 WebBrowserForm::WebBrowserForm(Options &storedOptions, Dialogs &fileDialogs, QString &base)
     : options(storedOptions), dialogs(fileDialogs), projectPath(base) {
     SetVisible(false);
+    AddToForm(*this, Option1, u"Option1"_s);
+    AddToForm(*this, Option2, u"Option2"_s);
+    AddToForm(*this, BrowserPath, u"BrowserPath"_s);
+    AddToForm(*this, SSCommand1, u"SSCommand1"_s);
+    AddToForm(*this, SSCommand2, u"SSCommand2"_s);
+    AddToForm(*this, SSCommand3, u"SSCommand3"_s);
 }
 
 void WebBrowserForm::Load() { BrowserPath.SetText(options.Text(option::browser)); }

@@ -19,7 +19,10 @@ struct ChannelDisplay {
 };
 
 /// The pane FrameSUBMIT: the channels, the counters of the run and the address under way.
-struct SubmitForm {
+class SubmitForm : public QObject {
+    Q_OBJECT
+
+public:
     SubmitForm();
 
     std::array<ChannelDisplay, channelCount> channels;

@@ -67,12 +67,19 @@ void ListBox::SetListIndex(int index) {
     emit ListIndexChanged(index);
 }
 
+void ListBox::Click(int index) {
+    SetListIndex(index);
+    emit Clicked();
+}
+
 void ListBox::SetText(const QString &name) { SetListIndex(static_cast<int>(items.indexOf(name))); }
 
 void ListBox::SetEnabled(bool on) {
     if (enabled == on)
         return;
     enabled = on;
+    if (!items.isEmpty())
+        emit dataChanged(index(0), index(ListCount() - 1)); // the flags of all entries are others now
     emit EnabledChanged(on);
 }
 
@@ -83,13 +90,13 @@ QVariant ListBox::data(const QModelIndex &index, int role) const {
         return {};
     if (role == Qt::DisplayRole)
         return items.at(index.row());
-    if (role == Qt::CheckStateRole)
+    if (role == Qt::CheckStateRole && markOffer == Marks::Offered)
         return Selected(index.row()) ? Qt::Checked : Qt::Unchecked;
     return {};
 }
 
 bool ListBox::setData(const QModelIndex &index, const QVariant &value, int role) {
-    if (role != Qt::CheckStateRole || !enabled || !Contains(index.row()))
+    if (role != Qt::CheckStateRole || markOffer == Marks::None || !enabled || !Contains(index.row()))
         return false;
     SetSelected(index.row(), value.toInt() == Qt::Checked);
     return true;
@@ -97,7 +104,9 @@ bool ListBox::setData(const QModelIndex &index, const QVariant &value, int role)
 
 Qt::ItemFlags ListBox::flags(const QModelIndex &index) const {
     const Qt::ItemFlags usual = QAbstractListModel::flags(index);
-    return enabled ? usual | Qt::ItemIsUserCheckable : usual & ~Qt::ItemIsUserCheckable;
+    if (!enabled)
+        return usual & ~Qt::ItemIsEnabled;
+    return markOffer == Marks::Offered ? usual | Qt::ItemIsUserCheckable : usual;
 }
 
 } // namespace lanterra

@@ -15,6 +15,10 @@ class ListBox : public QAbstractListModel {
 public:
     static constexpr int noEntry = -1;
 
+    /// Whether a face offers the check marks. The marks themselves are there in either case.
+    enum class Marks { Offered, None };
+    explicit ListBox(Marks offeredMarks = Marks::Offered) : markOffer(offeredMarks) {}
+
     int ListCount() const { return static_cast<int>(items.size()); }
     bool Contains(int index) const { return index >= 0 && index < ListCount(); }
 
@@ -38,6 +42,9 @@ public:
     int ListIndex() const { return listIndex; }
     void SetListIndex(int index);
 
+    /// Makes an entry current as a person's choice, of which Clicked tells.
+    void Click(int index);
+
     /// The name of the current entry; setting it makes the first entry of exactly that name current, none if
     /// there is no such entry.
     QString Text() const { return Item(listIndex); }
@@ -55,11 +62,14 @@ signals:
     /// A mark changed, once for a change of many.
     void MarksChanged();
     void ListIndexChanged(int index);
+    /// A person has chosen an entry; it is current now.
+    void Clicked();
     void EnabledChanged(bool on);
 
 private:
     void MarksWereSet();
 
+    Marks markOffer;
     QStringList items;
     std::vector<bool> marks; ///< one for each item
     int selCount = 0;        ///< number of true values in marks

@@ -29,7 +29,7 @@ public:
 
     CheckBox Option1; ///< "Create a new project"
     CheckBox Option2; ///< "Open an existing project"; one of the two is checked
-    ListBox List1;
+    ListBox List1{ListBox::Marks::None};
     CheckBox LoadLastProject;
 
 signals:

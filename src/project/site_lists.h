@@ -23,11 +23,11 @@ public:
     /// The name of the site at a position of List1, empty outside.
     QString SiteName(int index) const { return SiteNames.value(index); }
 
-    ListBox List1;         ///< automated sites, their marks are the selection
-    ListBox List5;         ///< semi-automated sites; the marks are not stored
-    ListBox lstTopEngines; ///< top search engines; the marks are not stored
-    ListBox List2;         ///< directories that want a category
-    ListBox List3;         ///< categories of the directory that is current in List2
+    ListBox List1;                       ///< automated sites, their marks are the selection
+    ListBox List5;                       ///< semi-automated sites; the marks are not stored
+    ListBox lstTopEngines;               ///< top search engines; the marks are not stored
+    ListBox List2{ListBox::Marks::None}; ///< directories that want a category
+    ListBox List3{ListBox::Marks::None}; ///< categories of the directory that is current in List2
     Label lblSelected;
     QStringList SiteNames; ///< the names in List1 order, as they stood when the project was opened
 };

@@ -8,15 +8,9 @@ namespace lanterra {
 
 namespace {
 
-/// "FILE:ROW: reason", as compilers write it, so that editors find the place.
-QString FindingLine(const SiteFinding &finding) {
-    const QString place = finding.row == 0 ? finding.file : u"%1:%2"_s.arg(finding.file).arg(finding.row);
-    return place + u": "_s + finding.reason;
-}
-
 Outcome TellFindings(const QList<SiteFinding> &findings, Console &console) {
     for (const SiteFinding &finding : findings)
-        console.TellLine(FindingLine(finding));
+        console.TellLine(finding.Text());
     return {findings.isEmpty() ? ExitCode::Done : ExitCode::Failed};
 }
 
@@ -34,7 +28,7 @@ Outcome Dump(const CommandCall &call) {
 Outcome Check(const CommandCall &call) {
     const QList<SiteFinding> findings = CheckSiteFile(call.arguments.at(1));
     for (const SiteFinding &finding : findings)
-        call.console.Print(FindingLine(finding));
+        call.console.Print(finding.Text());
     return {findings.isEmpty() ? ExitCode::Done : ExitCode::Failed};
 }
 

@@ -129,8 +129,7 @@ QString SiteText(const SiteEntry &site) {
 } // namespace
 
 QString SiteFinding::Text() const {
-    return row == 0 ? u"%1: %2"_s.arg(file, reason)
-                    : u"%1: row %2: %3"_s.arg(file, QString::number(row), reason);
+    return row == 0 ? u"%1: %2"_s.arg(file, reason) : u"%1:%2: %3"_s.arg(file, QString::number(row), reason);
 }
 
 SiteSourceReading ReadSiteSource(const QString &path) { return SourceReader(path).Read(); }

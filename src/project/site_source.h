@@ -29,7 +29,7 @@ struct SiteFinding {
     int row = 0; ///< of the site, counted from 1; 0 for the file as a whole
     QString reason;
 
-    /// "FILE: row 3: REASON", for a person.
+    /// "FILE:ROW: REASON" or "FILE: REASON", as compilers write it, so that editors find the place.
     QString Text() const;
 };
 

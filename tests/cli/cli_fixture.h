@@ -50,11 +50,6 @@ protected:
         file.write(bytes);
     }
 
-    QByteArray ReadFile(const QString &name) const {
-        QFile file(Path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
     /// A command under way, in the temporary folder.
     std::unique_ptr<QProcess> Start(const QStringList &arguments) const {
         auto process = std::make_unique<QProcess>();
@@ -95,24 +90,20 @@ protected:
         return condition();
     }
 
-    /// Builds the master by the command itself.
-    void GivenMaster(const SiteDatabaseBuilder &sites) {
-        WriteFile(QStringLiteral("sites.json"), SiteSourceText(sites.Source()).toUtf8());
-        const CommandResult built = Run({QStringLiteral("sitedb"), QStringLiteral("build"),
-                                         QStringLiteral("sites.json"), QStringLiteral("home/ng.dll")});
-        ASSERT_EQ(built.exitCode, 0) << built.errors.toStdString();
-    }
-
-    /// A project p.rts with all that a run asks for.
-    void GivenProject(const QStringList &more = {}) {
-        QStringList arguments{QStringLiteral("new"), QStringLiteral("p.rts"),
-                              QStringLiteral("txtURL=www.page.example")};
-        for (const char *field : {"txtEmail", "txtName1", "txtName2", "txtCompany", "txtStreet", "txtState",
-                                  "txtCountry", "txtCity", "txtZip", "txtPhone", "txtTitle", "txtKey1",
-                                  "txtKey2", "txtKey3", "txtKey4", "txtKey5", "txtKey6"})
-            arguments << QString::fromLatin1(field) + QStringLiteral("=x");
-        const CommandResult made = Run(arguments + more);
-        ASSERT_EQ(made.exitCode, 0) << made.errors.toStdString();
+    /// A project p.rts with all that a run asks for, made from these sites, which are selected. Replaces an
+    /// old one.
+    void GivenProject(const SiteDatabaseBuilder &sites, const QStringList &more = {}) {
+        ASSERT_TRUE(sites.Write(Path(QStringLiteral("home/ng.dll"))));
+        const QString entry = QStringLiteral(
+            "new --yes p.rts txtURL=www.page.example txtEmail=x txtName1=x txtName2=x txtCompany=x "
+            "txtStreet=x "
+            "txtState=x txtCountry=x txtCity=x txtZip=x txtPhone=x txtTitle=x txtKey1=x txtKey2=x txtKey3=x "
+            "txtKey4=x txtKey5=x txtKey6=x");
+        for (const QStringList &words :
+             {entry.split(u' ') + more, QStringLiteral("select p.rts --all").split(u' ')}) {
+            const CommandResult result = Run(words);
+            ASSERT_EQ(result.exitCode, 0) << result.errors.toStdString();
+        }
     }
 
     QTemporaryDir folder;

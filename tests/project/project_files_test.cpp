@@ -1,4 +1,5 @@
 #include "tests/fakes/program_fixture.h"
+#include "tests/file_bytes.h"
 
 #include <QDir>
 
@@ -12,6 +13,10 @@ protected:
     ProjectFilesTest() { GivenSites({u"Alta"_s, u"Beta"_s}); }
 
     QString InProjects(const QString &file) const { return home.filePath(u"Projects/"_s + file); }
+    void SaveAs(const QString &file) {
+        dialogs.files = {InProjects(file)};
+        Files().mnuFileSaveAs_Click();
+    }
     ProjectFiles &Files() { return program->files; }
     ProjectRecord &Record() { return program->project.record; }
     ProjectPath &Path() { return program->project.path; }
@@ -19,39 +24,31 @@ protected:
 
 TEST_F(ProjectFilesTest, SaveAsCopiesTheProjectAndCleansTheName) {
     Record().txtTitle.SetText(u"Title"_s);
-    dialogs.files = {InProjects(u"a,b & c#.rts"_s)};
-    Files().mnuFileSaveAs_Click();
+    SaveAs(u"a,b & c#.rts"_s);
     EXPECT_EQ(Path().Base, InProjects(u"ab  c.rts"_s));
     EXPECT_EQ(Path().ProjectName, u"ab  c"_s);
     EXPECT_EQ(Path().StatsFilePath, InProjects(u"a,b & c#.sst"_s));
     EXPECT_EQ(program->frame.Caption(), u"Zephyrine Lanterra 2 - ab  c"_s);
     EXPECT_EQ(program->recentFile.File(1), Path().Base);
-    Record().txtTitle.SetText(QString());
-    Files().OpenProject(InProjects(u"ab  c.rts"_s));
-    EXPECT_EQ(Record().txtTitle.Text(), u"Title"_s);
     EXPECT_EQ(dialogs.fileDialogs[0].filter, u"Lanterra files (*.rts)|*.rts"_s);
     EXPECT_EQ(dialogs.fileDialogs[0].fileName, u"Project1.rts"_s);
-}
-
-TEST_F(ProjectFilesTest, SaveAsUnderTheSameNameStoresTheFields) {
-    Record().txtTitle.SetText(u"Again"_s);
-    dialogs.files = {Path().Base};
-    Files().mnuFileSaveAs_Click();
-    Record().txtTitle.SetText(QString());
-    Files().LoadProject();
-    EXPECT_EQ(Record().txtTitle.Text(), u"Again"_s);
-    EXPECT_EQ(QDir(home.filePath(u"Projects"_s)).entryList(QDir::Files), QStringList{u"Project1.rts"_s});
+    for (const QString &title : {u"Title"_s, u"Again"_s}) {
+        Record().txtTitle.SetText(QString());
+        Files().OpenProject(InProjects(u"ab  c.rts"_s));
+        EXPECT_EQ(Record().txtTitle.Text(), title);
+        Record().txtTitle.SetText(u"Again"_s);
+        SaveAs(u"ab  c.rts"_s); // under its own name it stores the fields
+    }
+    EXPECT_EQ(QDir(InProjects({})).entryList(QDir::Files), (QStringList{u"ab  c.rts"_s, u"Project1.rts"_s}));
 }
 
 TEST_F(ProjectFilesTest, CleaningNeverLeadsToAnotherProjectsFile) {
     GivenOpenProject(u"ab"_s);
-    dialogs.files = {InProjects(u"a+b.rts"_s)};
-    Files().mnuFileSaveAs_Click();
+    SaveAs(u"a+b.rts"_s);
     EXPECT_EQ(Path().Base, InProjects(u"a+b.rts"_s));
     EXPECT_EQ(Path().ProjectName, u"ab"_s);
-
-    Files().OpenProject(
-        InProjects(u"a+b.rts"_s)); // an existing file keeps its name, so that a save reaches it
+    // An existing file keeps its name, so that a save reaches it.
+    Files().OpenProject(InProjects(u"a+b.rts"_s));
     EXPECT_EQ(Path().Base, InProjects(u"a+b.rts"_s));
     EXPECT_TRUE(Files().SaveProject(QString()).stored);
 }
@@ -61,13 +58,13 @@ TEST_F(ProjectFilesTest, ANewProjectStartsEmptyButForWhatCarriesOver) {
     Record().SetMultiUrlMode(true);
     dialogs.files = {InProjects(u"Fresh.rts"_s)};
     Files().mnuFileNew_Click();
-    EXPECT_EQ(Record().txtURL.Text(), u"http://"_s);
-    EXPECT_EQ(Record().txtEmail.Text(), QString());
-    EXPECT_EQ(Record().txtKey[5].Text(), QString());
-    EXPECT_EQ(Record().txtDesc.Text(), QString());
-    EXPECT_EQ(Record().txtLimit.Text(), u"45"_s);
+    const QMap<QString, QString> kept{{u"txtURL"_s, u"http://"_s},
+                                      {u"txtLimit"_s, u"45"_s},
+                                      {u"Combo2"_s, u"Business"_s},
+                                      {u"txttrazim"_s, u"x"_s}};
+    for (const ProjectRecord::TextField &field : Record().TextFields())
+        EXPECT_EQ(field.box->Text(), kept.value(field.name)) << field.name.toStdString();
     EXPECT_EQ(Record().Check1.Value(), 1); // the mark of the old project stays
-    EXPECT_EQ(Record().Combo2.Text(), u"Business"_s);
     EXPECT_FALSE(Record().MultiUrlMode());
     EXPECT_EQ(program->project.lists.List1.SelCount(), 0);
     EXPECT_TRUE(QFile::exists(InProjects(u"Fresh.rts"_s)));
@@ -87,12 +84,10 @@ TEST_F(ProjectFilesTest, ACancelledNewProjectBringsTheStoredOneBack) {
 TEST_F(ProjectFilesTest, OpenAndRecentFiles) {
     GivenOpenProject(u"Second"_s);
     dialogs.files = {std::nullopt, InProjects(u"Project1.rts"_s)};
-    Files().mnuFileOpen_Click();
-    EXPECT_EQ(Path().ProjectName, u"Second"_s);
-    Files().mnuFileOpen_Click();
-    EXPECT_EQ(Path().ProjectName, u"Project1"_s);
-    EXPECT_EQ(program->recentFile.File(2), InProjects(u"Second.rts"_s));
-
+    for (const QString &name : {u"Second"_s, u"Project1"_s}) {
+        Files().mnuFileOpen_Click();
+        EXPECT_EQ(Path().ProjectName, name);
+    }
     StartProgram(); // the list outlives the program
     program->recentFile.Load();
     Files().mnuFileMRU_Click(2);
@@ -106,10 +101,8 @@ TEST_F(ProjectFilesTest, OpenAndRecentFiles) {
 }
 
 TEST_F(ProjectFilesTest, AFileWithoutSitesIsRefusedAndStaysAsItIs) {
-    const QByteArray garbage = "this is no database";
     QFile bad(InProjects(u"bad.rts"_s));
-    ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
-    bad.write(garbage);
+    ASSERT_TRUE(bad.open(QIODevice::WriteOnly) && bad.write("this is no database") > 0);
     bad.close();
     Record().txtTitle.SetText(u"Typed"_s);
     Files().OpenProject(bad.fileName());
@@ -119,9 +112,7 @@ TEST_F(ProjectFilesTest, AFileWithoutSitesIsRefusedAndStaysAsItIs) {
     EXPECT_EQ(Record().txtTitle.Text(), u"Typed"_s);
     EXPECT_EQ(program->project.lists.List1.ListCount(), 0);
     Files().mnuFileSave_Click();
-    ASSERT_TRUE(bad.open(QIODevice::ReadOnly));
-    EXPECT_EQ(bad.readAll(), garbage);
-    EXPECT_EQ(QDir(home.filePath(u"Projects"_s)).entryList({u"bad*"_s}, QDir::Files).size(), 1);
+    EXPECT_EQ(BytesOf(bad.fileName()), "this is no database");
 }
 
 class CountingImport : public SiteDatabaseImport {
@@ -131,17 +122,14 @@ public:
 };
 
 TEST_F(ProjectFilesTest, OnlyAGreaterMasterVersionStartsTheImport) {
-    CountingImport import;
-    Files().SetImport(&import);
-    const struct { int version, calls; } masters[] = {{1, 0}, {0, 0}, {2, 1}};
-    for (const auto &master : masters) {
-        import.calls = 0;
-        SiteDatabaseBuilder builder;
-        builder.Version(master.version).Site(u"New"_s);
+    for (const int version : {1, 0, 2}) {
+        CountingImport import;
+        Files().SetImport(&import);
         program->project.database.Unbind();
-        ASSERT_TRUE(builder.Write(Path().MasterFile()));
+        ASSERT_TRUE(SiteDatabaseBuilder().Version(version).Site(u"New"_s).Write(Path().MasterFile()));
         Files().OpenProject(InProjects(u"Project1.rts"_s));
-        EXPECT_EQ(import.calls, master.calls) << master.version;
+        EXPECT_EQ(import.calls, version == 2 ? 1 : 0) << version;
+        Files().SetImport(nullptr);
     }
     EXPECT_EQ(program->project.lists.List1.ListCount(), 2); // the import took the place of the reading
 }
@@ -151,40 +139,34 @@ TEST_F(ProjectFilesTest, AsksToSaveOnlyAProjectWithoutAFile) {
     EXPECT_EQ(settings.Get(u"Startup"_s, u"Base"_s), InProjects(u"Project1.rts"_s));
     Path().Base.clear();
     dialogs.answers = {BoxAnswer::No, BoxAnswer::Yes};
-    Files().AskSaveProject();
-    EXPECT_TRUE(dialogs.fileDialogs.empty());
     dialogs.files = {std::nullopt};
-    Files().AskSaveProject();
+    for (const std::size_t asked : {0U, 1U}) {
+        Files().AskSaveProject();
+        EXPECT_EQ(dialogs.fileDialogs.size(), asked);
+    }
     EXPECT_EQ(dialogs.boxes.back().text, u"Save current project ?"_s);
     EXPECT_EQ(dialogs.boxes.back().defaultAnswer, BoxAnswer::No);
-    EXPECT_EQ(dialogs.fileDialogs.size(), 1U);
 }
 
 TEST(ProjectPathTest, DerivesFolderAndName) {
-    QTemporaryDir home;
+    const QTemporaryDir home;
     ProjectPath path(home.path());
     EXPECT_EQ(path.ProjectFolder, home.filePath(u"Projects/"_s));
     EXPECT_EQ(path.ProjectName, u"Project1"_s);
-    const struct {
-        QString base, name, becomes;
-    } cases[] = {
+    const QList<QStringList> cases{
         {u"/x/my.site.rts"_s, u"my.site"_s, u"/x/my.site.rts"_s},
         {u"/x/old.mdb"_s, u"old"_s, u"/x/old.rts"_s},
         {u"/x/a:b?.rts"_s, u"ab"_s, u"/x/ab.rts"_s},
         {u"/x/&&.rts"_s, u"&&"_s, u"/x/&&.rts"_s}, // nothing would be left of it
         {u"/x/ab"_s, u"ab"_s, u"/x/ab.rts"_s},
         {u"/x/caf\u00e9.RTS"_s, u"caf\u00e9"_s, u"/x/caf\u00e9.rts"_s},
-    };
-    for (const auto &one : cases) {
-        path.Base = one.base;
+        {u"relative.rts"_s, u"relative"_s, QDir().absoluteFilePath(u"relative.rts"_s)}};
+    for (const QStringList &row : cases) {
+        path.Base = row[0];
         path.SplitProjectPath();
-        EXPECT_EQ(path.ProjectName, one.name);
-        EXPECT_EQ(path.Base, one.becomes);
-        EXPECT_EQ(path.ProjectFolder, u"/x/"_s);
+        EXPECT_EQ(path.ProjectName, row[1]);
+        EXPECT_EQ(path.Base, row[2]);
     }
-    path.Base = u"relative.rts"_s;
-    path.SplitProjectPath();
-    EXPECT_EQ(path.Base, QDir().absoluteFilePath(u"relative.rts"_s));
     path.Base.clear();
     path.SplitProjectPath();
     EXPECT_EQ(path.Base, QString());

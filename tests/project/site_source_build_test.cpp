@@ -22,20 +22,13 @@ protected:
         builder.Version(3).Site(u"Gamma"_s).Site(u"Alta"_s, u"directory"_s);
         builder.Query(u"\"c=\" & CCCAAATTT"_s).Categories({u"Other"_s, u"Arts"_s, u"News"_s});
         WriteWholeFile(source, SiteSourceText(builder.Source()).toUtf8());
+        builder.Write(database);
     }
 
     void Bind(const QString &table) {
         control.SetDatabaseName(database);
         control.SetRecordSource(table);
         ASSERT_TRUE(control.Refresh()) << control.Failure().toStdString();
-    }
-
-    void AddCategoriesRow(const QString &name) {
-        Bind(u"Categories"_s);
-        control.AddNew();
-        control.SetText(u"Name"_s, name);
-        control.Update();
-        control.Close();
     }
 
     QTemporaryDir folder;
@@ -46,28 +39,17 @@ protected:
     DataControl control{files, DataControl::Access::ReadWrite};
 };
 
-TEST_F(SiteSourceBuildTest, ADumpOfTheDatabaseIsTheSourceAgain) {
-    EXPECT_TRUE(BuildSiteFile(source, database).isEmpty());
+TEST_F(SiteSourceBuildTest, ABuildThatFailsLeavesWhatWasThere) {
+    EXPECT_EQ(BuildSiteFile(source, source).size(), 1);
+    EXPECT_EQ(ReadSiteSource(source).source, builder.Source());
+    WriteWholeFile(source, SiteSourceText(SiteDatabaseBuilder(builder).Site(u"Gamma"_s).Source()).toUtf8());
+    EXPECT_EQ(BuildSiteFile(source, database).value(0).Text(),
+              source + u":3: The name stands in the list twice: Gamma"_s);
     EXPECT_EQ(ReadSiteDatabase(database).source, builder.Source());
-    EXPECT_EQ(ReadSiteDatabase(source).findings.value(0).reason, u"The file is no database."_s);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList({u"ng.dll"_s, u"sites.json"_s}));
 }
 
-TEST_F(SiteSourceBuildTest, ABuildThatFailsLeavesWhatWasThere) {
-    const QString nowhere = folder.filePath(u"none/ng.dll"_s);
-    EXPECT_EQ(BuildSiteFile(source, nowhere).value(0).Text(),
-              nowhere + u": The database could not be written."_s);
-    EXPECT_EQ(BuildSiteFile(source, source).size(), 1);
-    EXPECT_EQ(ReadSiteSource(source).source, builder.Source());
-    builder.Write(database);
-    WriteWholeFile(source, SiteSourceText(builder.Site(u"Gamma"_s).Source()).toUtf8());
-    EXPECT_EQ(BuildSiteFile(source, database).value(0).Text(),
-              source + u": row 3: The name stands in the list twice: Gamma"_s);
-    EXPECT_EQ(ReadSiteDatabase(database).source.sites.size(), 2);
-}
-
 TEST_F(SiteSourceBuildTest, RowsAreStoredAsProjectsReadThem) {
-    ASSERT_TRUE(builder.Write(database));
     Bind(u"Data"_s);
     EXPECT_EQ(control.Text(u"Name"_s), u"Gamma"_s);
     EXPECT_EQ(control.Number(u"Version"_s), 3);
@@ -81,13 +63,29 @@ TEST_F(SiteSourceBuildTest, RowsAreStoredAsProjectsReadThem) {
 }
 
 TEST_F(SiteSourceBuildTest, CategoriesBelongToOneKnownSite) {
-    builder.Write(database);
-    AddCategoriesRow(u"Nobody"_s);
-    AddCategoriesRow(u"Alta"_s);
+    Bind(u"Categories"_s);
+    for (const QString &name : {u"Nobody"_s, u"Alta"_s}) {
+        control.AddNew();
+        control.SetText(u"Name"_s, name);
+        control.Update();
+    }
+    control.Close();
     const QList<SiteFinding> findings = ReadSiteDatabase(database).findings;
     ASSERT_EQ(findings.size(), 2);
-    EXPECT_EQ(findings[0].Text(), database + u": row 2: Categories of an unknown site: Nobody"_s);
-    EXPECT_EQ(findings[1].Text(), database + u": row 3: Categories for the second time: Alta"_s);
+    EXPECT_EQ(findings[0].Text(), database + u":2: Categories of an unknown site: Nobody"_s);
+    EXPECT_EQ(findings[1].Text(), database + u":3: Categories for the second time: Alta"_s);
+}
+
+TEST_F(SiteSourceBuildTest, OnlyTextsOfTheProjectAreHeldTo255Characters) {
+    Bind(u"Stats"_s);
+    control.AddNew();
+    EXPECT_TRUE(control.SetText(u"Successful Submissions"_s, QString(70000, u'x')));
+    Bind(u"Project"_s);
+    control.AddNew();
+    for (const QString &field : {u"txtURL"_s, u"txtKey6"_s, u"Combo2"_s, u"txttrazim"_s}) {
+        EXPECT_TRUE(control.SetText(field, QString(255, u'x')));
+        EXPECT_FALSE(control.SetText(field, QString(256, u'x')));
+    }
 }
 
 } // namespace

@@ -65,8 +65,7 @@ TEST_F(StartProjectTest, TheDialogOffersCreateFirstAndOpenLater) {
     EXPECT_EQ(dialog->List1.Items(), QStringList{u"More Files..."_s});
     GivenOpenProject(u"A project with a name so long that its path is cut for display"_s);
     dialog->Load();
-    EXPECT_TRUE(dialog->Option2.Checked());
-    EXPECT_FALSE(dialog->Option1.Checked());
+    EXPECT_TRUE(dialog->Option2.Checked() && !dialog->Option1.Checked());
     EXPECT_TRUE(dialog->List1.Item(1).contains(u"..."_s));
     EXPECT_TRUE(dialog->List1.Item(1).endsWith(u"for display.rts"_s));
 }
@@ -96,14 +95,10 @@ TEST_F(StartProjectTest, MoreFilesOpensAnyFileAndCancelLeavesTheDialogUp) {
     dialogs.files = {std::nullopt, InProjects(u"Shop.rts"_s)};
     dialog->cmdOK_Click();
     EXPECT_TRUE(dialog->Visible());
-    EXPECT_EQ(Path().Base, QString());
     dialog->List1_DblClick();
     EXPECT_FALSE(dialog->Visible());
     EXPECT_EQ(Path().Base, InProjects(u"Shop.rts"_s));
-}
 
-TEST_F(StartProjectTest, ADoubleClickOnAFileThatIsGoneTellsSo) {
-    GivenOpenProject(u"Shop"_s);
     dialog->Load();
     QFile::remove(InProjects(u"Shop.rts"_s));
     dialog->List1.SetListIndex(1);

@@ -19,5 +19,6 @@ Command PreviewCommand();
 Command SubmitCommand();
 Command StatsCommand();
 Command SitedbCommand();
+Command CipherCommand();
 
 } // namespace lanterra

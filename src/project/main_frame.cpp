@@ -6,6 +6,13 @@ namespace lanterra {
 
 MainFrame::MainFrame() { AddToForm(*this, Notice, u"Notice"_s); }
 
+void MainFrame::SetVisible(bool show) {
+    if (visible == show)
+        return;
+    visible = show;
+    emit VisibleChanged(show);
+}
+
 QString MainFrame::Caption() const { return u"Zephyrine Lanterra 2 - "_s + projectName; }
 
 void MainFrame::SetProjectName(const QString &name) {

@@ -19,14 +19,23 @@ enum class Pane {
 };
 
 /// The pointers that a long job shows.
-enum class MousePointer { Default = 0, Arrow = 1, Hourglass = 11, Busy = 99 };
+enum class MousePointer { Default = 0, Arrow = 1, Hourglass = 11, WaitingArrow = 13, Busy = 99 };
 
-/// What belongs to the main window as a whole: its caption, the pane on view, its pointer.
+/// What belongs to the main window as a whole: whether it is there, its caption, the pane on view, its
+/// pointer.
 class MainFrame : public QObject {
     Q_OBJECT
 
 public:
     MainFrame();
+
+    /// False until the start of the program has opened a project, and again at its end.
+    bool Visible() const { return visible; }
+    void SetVisible(bool show);
+
+    /// Asks the face to end the program, as its close box does. Returns at once: the end comes when
+    /// everything on the stack has returned.
+    void RequestClose() { emit CloseRequested(); }
 
     /// The caption is the product's name followed by the project's.
     QString Caption() const;
@@ -41,12 +50,15 @@ public:
     void SetPointer(MousePointer newPointer);
 
 signals:
+    void VisibleChanged(bool visible);
+    void CloseRequested();
     void CaptionChanged(const QString &caption);
     /// Also when the pane was on view already, so that it comes to the front.
     void PaneShown(lanterra::Pane pane);
     void PointerChanged(lanterra::MousePointer pointer);
 
 private:
+    bool visible = false;
     QString projectName;
     Pane shownPane = Pane::FrameAbout;
     MousePointer pointer = MousePointer::Default;

@@ -10,6 +10,8 @@ bool RequestCollector::CollectSubmissionData() {
     DataControl &table = project.database.Data2;
     EnsureRecordSource(table, u"Data"_s);
     const RequestTemplate values(project.record);
+    txtEmailText = values.Value(u"txtEmailText");
+    AllKeywords = values.Value(u"AllKeywords");
     files.mnuFileSave_Click();
 
     requests.assign(static_cast<std::size_t>(project.lists.List1.ListCount()), {});

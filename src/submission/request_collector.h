@@ -39,6 +39,11 @@ public:
 
     std::vector<SiteRequest> requests;
 
+    // Two encoded values of the last CollectSubmissionData, for the page of ready-filled forms. Empty until
+    // the first one, and not renewed when the fields change.
+    QString txtEmailText;
+    QString AllKeywords;
+
 private:
     Project &project;
     ProjectFiles &files;

@@ -3,6 +3,7 @@
 #include "support/url_encode.h"
 
 #include <QStringList>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -59,6 +60,12 @@ RequestTemplate::RequestTemplate(const ProjectRecord &record) {
     add(u"txtDescText"_s, record.txtDesc);
     words.push_back({u"AllKeywords"_s, AllKeywords(record)});
     words.push_back({u"Combo2.Text"_s, record.Combo2.Text()}); // one of seven known words, so not encoded
+}
+
+QString RequestTemplate::Value(QStringView word) const {
+    const auto found =
+        std::find_if(words.begin(), words.end(), [word](const Word &each) { return each.name == word; });
+    return found == words.end() ? QString() : found->value;
 }
 
 QString RequestTemplate::Expand(QString query, const std::function<QString()> &category) const {

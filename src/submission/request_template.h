@@ -26,6 +26,9 @@ public:
     /// site's category, and returns it encoded.
     QString Expand(QString query, const std::function<QString()> &category) const;
 
+    /// The encoded value of a placeholder word, empty for an unknown one.
+    QString Value(QStringView word) const;
+
 private:
     struct Word {
         QString name;

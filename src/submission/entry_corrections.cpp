@@ -17,11 +17,15 @@ void TakeFaxFromPhone(ProjectRecord &record) {
         record.txtFax.SetText(record.txtPhone.Text());
 }
 
-void CorrectEntries(ProjectRecord &record) {
+void CorrectTimeLimit(ProjectRecord &record) {
     if (LeadingNumber(record.txtLimit.Text()) > longestLimit)
         record.txtLimit.SetText(u"1000"_s);
     if (!IsNumeric(record.txtLimit.Text()))
         record.txtLimit.SetText(u"45"_s);
+}
+
+void CorrectEntries(ProjectRecord &record) {
+    CorrectTimeLimit(record);
     record.txtName.SetText(record.txtName1.Text() + u' ' + record.txtName2.Text());
     // Compared to the letter: "business" is not one of the subjects that sites know.
     if (!record.Combo2.Entries().contains(record.Combo2.Text()))

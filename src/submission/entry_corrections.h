@@ -10,8 +10,11 @@ namespace lanterra {
 /// An empty fax number takes that of the telephone. A run does this before it checks the fields.
 void TakeFaxFromPhone(ProjectRecord &record);
 
-/// Brings the time limit into its bounds, joins both names in txtName, and replaces a subject that sites
-/// don't know. A run does this once its checks have passed.
+/// Brings the time limit into its bounds.
+void CorrectTimeLimit(ProjectRecord &record);
+
+/// Does that, joins both names in txtName, and replaces a subject that sites don't know. A run does this once
+/// its checks have passed.
 void CorrectEntries(ProjectRecord &record);
 
 } // namespace lanterra

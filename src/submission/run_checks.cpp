@@ -14,9 +14,11 @@ constexpr int firstDescriptionField = 10; ///< by position in the check of requi
 
 } // namespace
 
-bool RunChecks::Pass() {
+bool RunChecks::Pass() { return FieldsPass() && CategoriesAreChosen(); }
+
+bool RunChecks::FieldsPass() {
     TakeFaxFromPhone(project.record);
-    return FieldsAreFilled() && CategoriesAreChosen();
+    return FieldsAreFilled();
 }
 
 // The pane follows the position in the table: phone and fax, 10 and 11, stand among the other data, yet lead

@@ -79,6 +79,19 @@ void SubmissionRun::mnuSemi_Click() {
         modes->WriteSemiPage();
 }
 
+QString SubmissionRun::Pripremi_Submission() {
+    parts.frame.SetPointer(MousePointer::Hourglass);
+    if (!checks.FieldsPass()) {
+        SetRunActive(false);
+        return u"zaustavi"_s;
+    }
+    CorrectTimeLimit(parts.project.record);
+    for (int number = 1; number <= channelCount; ++number)
+        parts.channels.Channel(number).ClearDisplay();
+    parts.frame.SetPointer(MousePointer::Default);
+    return {};
+}
+
 bool SubmissionRun::EnsureProjectFile() {
     parts.frame.SetPointer(MousePointer::Hourglass);
     saveRefused = false;

@@ -6,6 +6,7 @@
 #include "support/code_page.h"
 #include "support/product.h"
 #include "support/text_file.h"
+#include "support/text_template.h"
 #include "support/whole_file.h"
 
 #include <QDir>
@@ -15,27 +16,6 @@
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
-
-namespace {
-
-// One pass over the record, so that a value that holds another value's placeholder stays as it is.
-QString Expand(const QString &record, const QHash<QString, QString> &values) {
-    QString expanded;
-    qsizetype from = 0;
-    for (qsizetype open = record.indexOf(u'{'); open >= 0; open = record.indexOf(u'{', open + 1)) {
-        const qsizetype close = record.indexOf(u'}', open);
-        const auto value = values.constFind(record.mid(open + 1, close - open - 1));
-        if (close < 0 || value == values.constEnd())
-            continue;
-        expanded += QStringView(record).mid(from, open - from);
-        expanded += *value;
-        from = close + 1;
-    }
-    expanded += QStringView(record).mid(from);
-    return expanded;
-}
-
-} // namespace
 
 SubmissionReport::SubmissionReport(Project &openProject, const RunResult &runResult, const Clock &systemClock,
                                    EventQueue &eventQueue)
@@ -81,7 +61,7 @@ SubmissionReport::Values SubmissionReport::HeadValues() const {
 
 bool SubmissionReport::WriteRecord(WholeFile &file, const QString &record, const Values &values) const {
     const bool ownLineEnd = record.endsWith("\\n"_L1);
-    const QString text = Expand(ownLineEnd ? record.chopped(2) : record, values);
+    const QString text = FillTemplate(ownLineEnd ? record.chopped(2) : record, values);
     return file.Write(CodePage::Encode(text + (ownLineEnd ? u"\r\n\r\n"_s : u"\r\n"_s)));
 }
 

@@ -185,7 +185,9 @@ void SubmissionRun::Dispatch() {
     ShowCounts();
     phase = 2;
     EndRun();
-    CloseRun();
+    // A job counts a cancelled URL by the popup of Cancel. Counted here too, the next one would be skipped.
+    if (!cancelRequested)
+        CloseRun();
 }
 
 void SubmissionRun::DispatchOne() {

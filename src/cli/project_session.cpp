@@ -38,8 +38,8 @@ QStringList FieldsToCut(const ProjectRecord &record) {
 
 ProjectSession::ProjectSession(const CommandCall &commandCall)
     : call(commandCall), dialogs(call.console, call.answer),
-      program({call.doors.queue, call.doors.clock, dialogs, forms, documents, call.doors.settings,
-               call.doors.makeClient},
+      program({call.doors.queue, call.doors.clock, dialogs, forms, documents, printer, clipboard,
+               call.doors.settings, call.doors.makeClient},
               PreparedFolder(call)) {
     forms.SetRun(program.run);
     program.recentFile.Load();
@@ -59,6 +59,10 @@ Outcome ProjectSession::Open(const QString &file) {
     if (project.database.Data2.RowCount() == 0)
         return Outcome::Failed(u"%1 is no project: it holds no sites."_s.arg(file));
     program.files.OpenProject(project.path.Base);
+    if (program.files.Ended())
+        return Outcome::Refused(u"%1 now holds the new sites; give the command again."_s.arg(file));
+    if (const QString &notice = program.frame.Notice.Caption(); !notice.isEmpty())
+        call.console.Tell(notice);
     return {};
 }
 

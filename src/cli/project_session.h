@@ -3,6 +3,8 @@
 #include "cli/command.h"
 #include "cli/console_dialogs.h"
 #include "cli/console_forms.h"
+#include "cli/no_clipboard.h"
+#include "cli/no_printer.h"
 #include "cli/unopened_documents.h"
 #include "shell/program.h"
 
@@ -14,8 +16,9 @@ public:
     /// The call must outlive this. Makes the program's folder ready and loads the user's options.
     explicit ProjectSession(const CommandCall &commandCall);
 
-    /// Opens an existing project; nothing is created and nothing is changed. Refuses a file that is none.
-    /// Yields.
+    /// Opens an existing project; nothing is created and nothing is changed, unless the master is newer: the
+    /// project then takes over its sites, and the command must be given again. Refuses a file that is no
+    /// project. Yields.
     Outcome Open(const QString &file);
 
     /// Makes a new project from the master and opens it. Refuses to replace a file without --yes. Yields.
@@ -34,6 +37,8 @@ private:
     ConsoleDialogs dialogs;
     ConsoleForms forms;
     UnopenedDocuments documents;
+    NoPrinter printer;
+    NoClipboard clipboard;
 
 public:
     Program program; ///< made behind the doors that it uses

@@ -2,7 +2,6 @@
 
 #include "cli/console.h"
 
-#include <algorithm>
 #include <chrono>
 
 using namespace Qt::StringLiterals;
@@ -28,8 +27,9 @@ const QString upToFirstLine = u"\x1B[%1A\r"_s.arg(lineCount);
 
 } // namespace
 
-RunProgress::RunProgress(const SubmitForm &submitForm, const RunResult &runResult, Console &standardStreams)
-    : form(submitForm), result(runResult), console(standardStreams) {
+RunProgress::RunProgress(const SubmitForm &submitForm, const RunResult &runResult,
+                         const RunEstimate &runEstimate, Console &standardStreams)
+    : form(submitForm), result(runResult), estimate(runEstimate), console(standardStreams) {
     if (!console.CanDraw())
         return;
     redraw.setSingleShot(true);
@@ -82,13 +82,13 @@ QString RunProgress::ChannelLine(int index) const {
 }
 
 QString RunProgress::BarLine() const {
-    const int total = form.Label28.Caption().toInt();
-    const int covered = result.SuccessfulCount() + result.FailedCount();
-    const int filled = total > 0 ? std::min(barWidth, covered * barWidth / total) : 0;
-    return u"[%1%2] %3/%4, %5 successful, %6 failed"_s.arg(
-        QString(filled, u'#'), QString(barWidth - filled, u'.'), QString::number(covered),
-        QString::number(total), QString::number(result.SuccessfulCount()),
+    const int filled = static_cast<int>(estimate.Fraction() * barWidth);
+    const QString line = u"[%1%2] %3/%4, %5 successful, %6 failed"_s.arg(
+        QString(filled, u'#'), QString(barWidth - filled, u'.'), QString::number(estimate.Covered()),
+        QString::number(estimate.Total()), QString::number(result.SuccessfulCount()),
         QString::number(result.FailedCount()));
+    const std::optional<int> secondsLeft = estimate.SecondsLeft();
+    return secondsLeft ? line + u", %1 s left"_s.arg(*secondsLeft) : line;
 }
 
 void RunProgress::Wipe() {

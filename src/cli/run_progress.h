@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reports/run_result.h"
+#include "submission/run_estimate.h"
 #include "submission/submit_form.h"
 
 #include <QObject>
@@ -17,7 +18,8 @@ class RunProgress final : public QObject {
 
 public:
     /// All must outlive this.
-    RunProgress(const SubmitForm &submitForm, const RunResult &runResult, Console &standardStreams);
+    RunProgress(const SubmitForm &submitForm, const RunResult &runResult, const RunEstimate &runEstimate,
+                Console &standardStreams);
     ~RunProgress() override;
     Q_DISABLE_COPY_MOVE(RunProgress)
 
@@ -32,6 +34,7 @@ private:
 
     const SubmitForm &form;
     const RunResult &result; ///< its counts are ahead of the form's, which wait for the next dispatch
+    const RunEstimate &estimate;
     Console &console;
     QTimer redraw; ///< gathers changes that come together
     bool drawn = false;

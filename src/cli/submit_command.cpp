@@ -56,9 +56,18 @@ Outcome ChecksRefusal(ProjectRecord &record) {
                                             : u"These are empty: %1."_s.arg(empty.join(", "_L1)));
 }
 
-Outcome Finished(const CommandCall &call, const Program &program, bool cancelled) {
+/// The text of the report screen, line by line as it stands there.
+void PrintReportText(ReportForm &form, Console &console) {
+    form.BuildReportText();
+    for (const QString &line : form.PlainText().chopped(1).split(u'\n'))
+        console.Print(line);
+}
+
+Outcome Finished(const CommandCall &call, Program &program, bool cancelled) {
     if (call.options.isSet(u"json"_s)) {
         call.console.PrintJson(RunSummaryJson(program));
+    } else if (call.options.isSet(u"text"_s)) {
+        PrintReportText(program.frmReport, call.console);
     } else {
         for (const QString &line : RunSummaryLines(program))
             call.console.Print(line);
@@ -71,6 +80,8 @@ Outcome Finished(const CommandCall &call, const Program &program, bool cancelled
 }
 
 Outcome RunSubmit(const CommandCall &call) {
+    if (call.options.isSet(u"json"_s) && call.options.isSet(u"text"_s))
+        return Outcome::WrongUse(u"--json and --text exclude each other."_s);
     ProjectSession session(call);
     if (Outcome opened = session.Open(call.arguments.first()); !opened.Good())
         return opened;
@@ -79,7 +90,7 @@ Outcome RunSubmit(const CommandCall &call) {
         call.console.Tell(u"No site is selected; choose some with: lanterra-cli select"_s);
     const CancelOnInterrupt cancel(program.run);
     {
-        const RunProgress progress(program.submitForm, program.result, call.console);
+        const RunProgress progress(program.submitForm, program.result, program.runEstimate, call.console);
         program.run.cmdStart_Click();
     }
     if (session.HasShownBox())
@@ -91,9 +102,10 @@ Outcome RunSubmit(const CommandCall &call) {
 
 Command SubmitCommand() {
     return {.name = u"submit"_s,
-            .usage = u"FILE [--json]"_s,
+            .usage = u"FILE [--json | --text]"_s,
             .summary = u"submit the page to all selected sites"_s,
-            .options = {{u"json"_s, u"print one JSON object with the outcome of every site"_s}},
+            .options = {{u"json"_s, u"print one JSON object with the outcome of every site"_s},
+                        {u"text"_s, u"print the text of the report screen instead of the summary"_s}},
             .mostArguments = 1,
             .run = RunSubmit};
 }

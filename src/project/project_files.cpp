@@ -180,7 +180,11 @@ StoreResult ProjectFiles::SaveProject(const QString &source) {
     StoreResult result;
     {
         const QScopedValueRollback<bool> saving(busy, true);
-        result = Store(source);
+        // Until a load is through, the boxes hold the data of another project.
+        if (parts.project.record.LoadingProject)
+            result.failure = u"A project is being loaded."_s;
+        else
+            result = Store(source);
     }
     parts.frame.Notice.SetCaption(result.stored ? QString()
                                                 : u"The project could not be saved: "_s + result.failure);
@@ -241,13 +245,19 @@ void ProjectFiles::LoadProject() {
     ProjectRecord &record = project.record;
     if (project.path.Base.isEmpty() || busy)
         return;
-    const QScopedValueRollback<bool> loading(busy, true);
+    QScopedValueRollback<bool> loading(busy, true);
     record.LoadingProject = true;
     record.multiUrlTable.EraseUrls();
     project.database.Unbind();
     project.database.BindMaster();
     project.database.BindProject();
-    ReadSiteLists(project, import);
+    if (ReadSiteLists(project, import)) {
+        // This load never ends, so that nothing is opened or stored behind it.
+        loading.commit();
+        ended = true;
+        emit ProgramEnds();
+        return;
+    }
     LoadProjectFields(project, parts.dialogs, parts.queue);
     ShowLoadedUrls();
     project.lists.KeepSiteNames();

@@ -56,8 +56,12 @@ public:
     /// if the master could not be copied. Yields.
     StoreResult CreateProject(const QString &file);
 
-    /// Loads the file `Base` into controls and lists; nothing without one. Yields.
+    /// Loads the file `Base` into controls and lists; nothing without one. If that leads to an import of a
+    /// newer master, it ends the program. Yields.
     void LoadProject();
+
+    /// Whether an import has ended the program. Nothing is loaded or saved any more.
+    bool Ended() const { return ended; }
 
     /// Copies the file `source` to Base, if one is given, binds the data objects, and stores the fields and
     /// the selection, both in one step, if the lists hold any site. A file newly made from the master thus
@@ -75,6 +79,11 @@ public:
     std::array<Label, RecentFile::limit> mnuFileMRU; ///< the recent files; those without a name are invisible
     void SetRunActive(bool active);
 
+signals:
+    /// An import has closed and stored everything: the process is to end at once, without the steps of a
+    /// usual end. Raised once, inside LoadProject.
+    void ProgramEnds();
+
 private:
     bool Accepts(const Control &entry) const;
     void ShowRecentFiles(const QStringList &names);
@@ -89,6 +98,7 @@ private:
     Parts parts;
     SiteDatabaseImport *import = nullptr;
     bool busy = false; ///< a project is being loaded or saved
+    bool ended = false;
 };
 
 } // namespace lanterra

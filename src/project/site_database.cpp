@@ -1,5 +1,6 @@
 #include "project/site_database.h"
 
+#include "database/walk_transaction.h"
 #include "support/file_names.h"
 
 using namespace Qt::StringLiterals;
@@ -55,6 +56,15 @@ bool EnsureRecordSource(DataControl &control, const QString &table) {
 void LeaveReplacedFile(DataControl &control) {
     if (!control.IsInPlace())
         control.Close();
+}
+
+bool EmptyTable(DataControl &control, const QString &table) {
+    if (!EnsureRecordSource(control, table))
+        return false;
+    WalkTransaction walk(control);
+    while (control.MoveFirst() && control.Delete()) {
+    }
+    return walk.Commit() && control.RowCount() == 0;
 }
 
 TableWalk::TableWalk(DataControl &dataControl, const QString &tableName)

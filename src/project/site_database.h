@@ -43,6 +43,9 @@ bool EnsureRecordSource(DataControl &control, const QString &table);
 /// the next EnsureRecordSource reads the new one.
 void LeaveReplacedFile(DataControl &control);
 
+/// Deletes all rows of a table, all or none. False if that failed. The control stays on the table.
+bool EmptyTable(DataControl &control, const QString &table);
+
 /// A walk over the rows of a table whose steps yield. Other handlers may move the control or turn it to
 /// another table meanwhile, and each step brings it back; one that was bound to another file ends the walk.
 class TableWalk {

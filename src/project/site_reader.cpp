@@ -32,23 +32,24 @@ void ReadDirectories(DataControl &table, ListBox &list) {
 
 } // namespace
 
-void ReadSiteLists(Project &project, SiteDatabaseImport *import) {
+bool ReadSiteLists(Project &project, SiteDatabaseImport *import) {
     if (project.path.Base.isEmpty())
-        return;
+        return false;
     DataControl &own = project.database.Data2;
     DataControl &master = project.database.Data1;
     // A file in use is waited for once, when it is bound, and not for each of its tables.
-    const bool bound = own.IsOpen() && EnsureRecordSource(own, u"Data"_s);
+    if (own.IsOpen())
+        EnsureRecordSource(own, u"Data"_s);
     EnsureRecordSource(master, u"Data"_s);
-    if (import && own.MoveFirst() && FirstRowVersion(master) > FirstRowVersion(own)) {
-        import->ImportSiteDatabase();
-        return;
-    }
+    if (import && own.MoveFirst() && FirstRowVersion(master) > FirstRowVersion(own) &&
+        import->ImportSiteDatabase())
+        return true;
     ReadSites(own, project.lists.List1);
     project.lists.List2.Clear();
     project.lists.List3.Clear();
-    if (bound && EnsureRecordSource(own, u"Categories"_s))
+    if (own.IsOpen() && EnsureRecordSource(own, u"Categories"_s))
         ReadDirectories(own, project.lists.List2);
+    return false;
 }
 
 } // namespace lanterra

@@ -28,6 +28,25 @@ void RunResult::Begin(int listCount) {
     firstDispatch = lastVerdict = std::chrono::milliseconds{0};
     notStored.clear();
     outcomes.assign(static_cast<std::size_t>(listCount), {});
+    underWay = true;
+    emit Begun();
+}
+
+void RunResult::End() {
+    underWay = false;
+    emit Ended();
+}
+
+SiteOutcome *RunResult::Outcome(int listIndex) {
+    const bool inside = listIndex >= 0 && listIndex < static_cast<int>(outcomes.size());
+    return inside ? &outcomes[static_cast<std::size_t>(listIndex)] : nullptr;
+}
+
+void RunResult::Await(int listIndex) {
+    if (SiteOutcome *outcome = Outcome(listIndex)) {
+        outcome->verdict = Verdict::None;
+        emit OutcomeChanged(listIndex);
+    }
 }
 
 void RunResult::NoteDispatch(std::chrono::milliseconds moment) {
@@ -38,17 +57,19 @@ void RunResult::NoteDispatch(std::chrono::milliseconds moment) {
 }
 
 void RunResult::Judge(int listIndex, const SiteOutcome &outcome, std::chrono::milliseconds moment) {
-    if (listIndex >= 0 && listIndex < static_cast<int>(outcomes.size()))
-        outcomes[static_cast<std::size_t>(listIndex)] = outcome;
     lastVerdict = moment;
+    if (SiteOutcome *site = Outcome(listIndex)) {
+        *site = outcome;
+        emit OutcomeChanged(listIndex);
+    }
 }
 
 void RunResult::Explain(int listIndex, const QString &reason) {
-    if (listIndex < 0 || listIndex >= static_cast<int>(outcomes.size()))
+    SiteOutcome *outcome = Outcome(listIndex);
+    if (!outcome || !outcome->reason.isEmpty())
         return;
-    SiteOutcome &outcome = outcomes[static_cast<std::size_t>(listIndex)];
-    if (outcome.reason.isEmpty())
-        outcome.reason = reason;
+    outcome->reason = reason;
+    emit OutcomeChanged(listIndex);
 }
 
 void RunResult::AddSuccess(const QString &name, int listIndex) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <QStringList>
 #include <array>
@@ -35,11 +36,14 @@ struct SiteOutcome {
     std::optional<int> status; ///< number of the answer's status line, if one came
     qint64 bytes = 0;          ///< of body received
     QString reason;            ///< why it failed or was passed by, one sentence without a full stop
+    QString statusText = {};   ///< the number with the words behind it ("404 Not Found"), if it came
 };
 
 /// What a run leaves behind: three lists of names with their counts, and where its pages and report lie. Kept
 /// until the next run overwrites it; an entry beyond a count can still hold a name of an earlier run.
-class RunResult {
+class RunResult : public QObject {
+    Q_OBJECT
+
 public:
     /// Empties the names of successes and failures, which a run does before its checks: old failures would
     /// swallow new ones. The counts stay, and so do the names of sites that were not selected until they are
@@ -48,6 +52,10 @@ public:
 
     /// Readies the counts and indexes for a run over `listCount` sites, all of them unjudged.
     void Begin(int listCount);
+
+    /// Notes that the run is over: nothing changes until the next one.
+    void End();
+    bool UnderWay() const { return underWay; }
 
     void AddSuccess(const QString &name, int listIndex);
     void AddFailure(const QString &name, int listIndex);
@@ -75,7 +83,7 @@ public:
     /// Notes how the site at a List1 position fared. An index outside the run is passed over.
     void Judge(int listIndex, const SiteOutcome &outcome, std::chrono::milliseconds moment);
     /// Notes that the site at a List1 position takes part in the run.
-    void Await(int listIndex) { outcomes.at(static_cast<std::size_t>(listIndex)).verdict = Verdict::None; }
+    void Await(int listIndex);
     /// Notes why a site that takes part got no verdict; the first reason stays.
     void Explain(int listIndex, const QString &reason);
 
@@ -83,7 +91,16 @@ public:
     QString reportFile;
     int elapsedSeconds = 0; ///< negative for a run across midnight
 
+signals:
+    void Begun();
+    /// The site at a List1 position takes part, was judged or explained.
+    void OutcomeChanged(int listIndex);
+    void Ended();
+
 private:
+    SiteOutcome *Outcome(int listIndex);
+
+    bool underWay = false;
     int successfulCount = 0;
     int failedCount = 0;
     int notSelectedCount = 0;

@@ -1,6 +1,5 @@
 #include "reports/statistics.h"
 
-#include "database/walk_transaction.h"
 #include "reports/date_texts.h"
 
 using namespace Qt::StringLiterals;
@@ -102,11 +101,7 @@ void Statistics::Command10_Click() {
 bool Statistics::DeleteAllRows() {
     DataControl &rows = project.database.Data2;
     rows.SetRecordSource(u"Stats"_s);
-    rows.Refresh();
-    WalkTransaction walk(rows);
-    while (rows.MoveFirst() && rows.Delete()) {
-    }
-    return walk.Commit() && rows.IsOpen() && rows.RowCount() == 0;
+    return rows.Refresh() && EmptyTable(rows, u"Stats"_s);
 }
 
 void Statistics::TellUnlessDeleted(bool deleted) {

@@ -16,15 +16,22 @@ Program::Program(const Doors &doors, const QString &programFolder)
       startProject(project, files, doors.forms, doors.dialogs, doors.queue),
       entry(project.record, doors.dialogs), siteSelection(project, doors.queue),
       categorySelection(project, doors.dialogs, doors.queue),
+      siteDatabaseUpdate(
+          {project, frame, frmStatus, files, siteSelection, options, doors.dialogs, doors.queue}),
       report(project, result, doors.clock, doors.queue),
       statistics(project, frame, doors.dialogs, doors.queue, doors.clock),
       reportDocuments(project.path, viewer),
+      frmReport({project, frame, result, windowSettings, doors.printer, doors.clipboard, doors.dialogs,
+                 doors.forms, doors.queue, doors.clock}),
+      siteListPrint(project.lists, doors.printer), outcomes(result, project.lists),
+      runEstimate(result, doors.clock),
       channels({submitForm, result, project.lists, project.record.txtLimit, doors.queue, doors.clock},
                doors.makeClient),
       collector(project, files, frmStatus, doors.queue),
       counter(doors.makeClient(), hosts, options, project.path.AppPath() + u"tmp.mth"_s),
       run({project, frame, frmStatus, files, frmSettings, proxy, channels, submitForm, collector, counter,
            result, report, statistics, viewer, doors.dialogs, doors.forms, doors.queue, doors.clock}) {
+    files.SetImport(&siteDatabaseUpdate);
     for (int number = 1; number <= channelCount; ++number)
         proxy.AddClient(channels.Channel(number).Client());
 }

@@ -4,11 +4,16 @@
 #include "project/category_selection.h"
 #include "project/entry_handlers.h"
 #include "project/project_files.h"
+#include "project/site_database_update.h"
 #include "project/site_selection.h"
 #include "project/start_project.h"
+#include "reports/outcome_table.h"
 #include "reports/report_documents.h"
+#include "reports/report_form.h"
+#include "reports/site_list_print.h"
 #include "reports/statistics.h"
 #include "settings/web_browser_form.h"
+#include "submission/run_estimate.h"
 #include "submission/submission_run.h"
 
 namespace lanterra {
@@ -20,6 +25,8 @@ struct Doors {
     Dialogs &dialogs;
     Forms &forms;
     DocumentOpener &documents;
+    Printer &printer;
+    Clipboard &clipboard;
     SettingsStore &settings;
     ChannelBank::ClientFactory makeClient;
 };
@@ -50,11 +57,16 @@ public:
     EntryHandlers entry;
     SiteSelection siteSelection;
     CategorySelection categorySelection;
+    SiteDatabaseUpdate siteDatabaseUpdate;
 
     RunResult result;
     SubmissionReport report;
     Statistics statistics;
     ReportDocuments reportDocuments;
+    ReportForm frmReport;
+    SiteListPrint siteListPrint;
+    OutcomeTable outcomes;
+    RunEstimate runEstimate;
 
     SubmitForm submitForm;
     ChannelBank channels;

@@ -134,8 +134,10 @@ void SubmissionChannel::OnError() {
 }
 
 void SubmissionChannel::NoteVerdict(Verdict verdict, const QString &reason) {
-    const std::optional<int> status = firstChunk ? std::nullopt : header.StatusCode();
-    parts.result.Judge(siteIndex, {verdict, status, parts.client->BodyBytes(), reason},
+    const bool answered = !firstChunk;
+    parts.result.Judge(siteIndex,
+                       {verdict, answered ? header.StatusCode() : std::nullopt, parts.client->BodyBytes(),
+                        reason, answered ? header.StatusText() : QString()},
                        parts.clock.Elapsed());
 }
 

@@ -25,6 +25,8 @@ void SubmissionRun::cmdStart_Click() {
         CloseRun();
         return;
     }
+    if (multiIdle)
+        notStored.clear();
     if (multiIdle && !ModeIsAutomated())
         return;
     if (!EnsureProjectFile())
@@ -224,12 +226,14 @@ void SubmissionRun::EndRun() {
     if (parts.frmSettings.CreateStatistic.Checked() && !parts.statistics.AppendSessionRow(parts.result))
         parts.result.notStored << u"The statistics could not be stored: "_s +
                                       parts.project.database.Data3.Failure();
+    TellNotStored();
     if (parts.project.record.Check3.Checked() && !parts.queue.Closing())
         parts.viewer.OpenDocument(parts.result.reportFile);
     if (upgrade)
         upgrade->ReleaseUpgrade();
     multiActive = false;
     SetRunActive(false);
+    parts.result.End();
     parts.counter.RemoveScratchFile();
     multiIdle = true;
 }
@@ -252,6 +256,15 @@ void SubmissionRun::ExplainMissingVerdicts() {
         if (parts.result.outcomes[static_cast<std::size_t>(i)].verdict == Verdict::None)
             parts.result.Explain(i, reason);
     }
+}
+
+// In the notice, since a box would hold up a job. The save of a later run in it empties the notice, so what
+// all of its runs had to tell is told again.
+void SubmissionRun::TellNotStored() {
+    notStored += parts.result.notStored;
+    notStored.removeDuplicates();
+    if (!notStored.isEmpty())
+        parts.frame.Notice.SetCaption(notStored.join("; "_L1));
 }
 
 void SubmissionRun::CloseRun() {

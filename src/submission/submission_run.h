@@ -119,6 +119,7 @@ private:
     void DrainChannels();
     void CompleteNotSelected();
     void ExplainMissingVerdicts();
+    void TellNotStored();
     void CloseRun();
     void SetRunActive(bool active);
 
@@ -135,6 +136,7 @@ private:
     int phase = 0;       ///< 1 while sites are dispatched, 2 when all are done, 0 when closed; only written
     int nextSite = 0;    ///< index into List1
     float startTime = 0; ///< Clock::Timer at the start of dispatch
+    QStringList notStored; ///< by this run, or by all of the job's runs so far
 };
 
 } // namespace lanterra

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "shell/program.h"
+#include "tests/fakes/fake_clipboard.h"
 #include "tests/fakes/fake_dialogs.h"
 #include "tests/fakes/fake_document_opener.h"
 #include "tests/fakes/fake_forms.h"
 #include "tests/fakes/fake_http_client.h"
+#include "tests/fakes/fake_printer.h"
 #include "tests/fakes/fake_settings_store.h"
 #include "tests/fakes/scripted_event_queue.h"
 #include "tests/fakes/site_database_builder.h"
@@ -37,9 +39,9 @@ protected:
     void StartProgram() {
         clients.clear();
         program.reset();
-        program = std::make_unique<Program>(
-            Doors{queue, clock, dialogs, forms, documents, settings, [this] { return MakeClient(); }},
-            home.path());
+        program = std::make_unique<Program>(Doors{queue, clock, dialogs, forms, documents, printer, clipboard,
+                                                  settings, [this] { return MakeClient(); }},
+                                            home.path());
         program->frmSettings.Load();
         forms.onMenu[PopupMenu::Submit] = [this] { program->run.mnuAuto_Click(); };
     }
@@ -75,6 +77,8 @@ protected:
     FakeDialogs dialogs;
     FakeForms forms;
     FakeDocumentOpener documents;
+    FakePrinter printer;
+    FakeClipboard clipboard;
     FakeSettingsStore settings;
     std::vector<FakeHttpClient *> clients;
     std::unique_ptr<Program> program;

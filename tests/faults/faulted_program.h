@@ -2,10 +2,12 @@
 
 #include "platform/ini_settings_store.h"
 #include "shell/program.h"
+#include "tests/fakes/fake_clipboard.h"
 #include "tests/fakes/fake_dialogs.h"
 #include "tests/fakes/fake_document_opener.h"
 #include "tests/fakes/fake_forms.h"
 #include "tests/fakes/fake_http_client.h"
+#include "tests/fakes/fake_printer.h"
 #include "tests/fakes/scripted_event_queue.h"
 
 #include <QDir>
@@ -34,8 +36,10 @@ public:
     FakeDialogs dialogs;
     FakeForms forms;
     FakeDocumentOpener documents;
+    FakePrinter printer;
+    FakeClipboard clipboard;
     IniSettingsStore settings{home.filePath(QStringLiteral("config/Lanterra.ini"))};
-    Program program{{queue, clock, dialogs, forms, documents, settings,
+    Program program{{queue, clock, dialogs, forms, documents, printer, clipboard, settings,
                      [] { return std::make_unique<FakeHttpClient>(); }},
                     home.path()};
 };

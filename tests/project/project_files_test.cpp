@@ -117,7 +117,10 @@ TEST_F(ProjectFilesTest, AFileWithoutSitesIsRefusedAndStaysAsItIs) {
 
 class CountingImport : public SiteDatabaseImport {
 public:
-    void ImportSiteDatabase() override { ++calls; }
+    bool ImportSiteDatabase() override {
+        ++calls;
+        return true;
+    }
     int calls = 0;
 };
 

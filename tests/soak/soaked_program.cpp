@@ -29,8 +29,8 @@ bool AnswersAtOnce(const QJsonObject &habits) {
 bool SoakedProgram::Start() {
     if (!server.Start(0) || !BuildMaster())
         return false;
-    program = std::make_unique<Program>(Doors{queue, clock, dialogs, forms, documents, settings,
-                                              [] { return std::make_unique<SocketHttpClient>(); }},
+    program = std::make_unique<Program>(Doors{queue, clock, dialogs, forms, documents, printer, clipboard,
+                                              settings, [] { return std::make_unique<SocketHttpClient>(); }},
                                         home.path());
     program->frmSettings.Load();
     forms.onMenu[PopupMenu::Submit] = [this] { program->run.mnuAuto_Click(); };

@@ -4,9 +4,11 @@
 #include "platform/qt_event_queue.h"
 #include "platform/system_clock.h"
 #include "shell/program.h"
+#include "tests/fakes/fake_clipboard.h"
 #include "tests/fakes/fake_dialogs.h"
 #include "tests/fakes/fake_document_opener.h"
 #include "tests/fakes/fake_forms.h"
+#include "tests/fakes/fake_printer.h"
 #include "tests/fakes/fake_settings_store.h"
 
 #include <QTemporaryDir>
@@ -36,6 +38,8 @@ private:
     FakeDialogs dialogs;
     FakeForms forms;
     FakeDocumentOpener documents;
+    FakePrinter printer;
+    FakeClipboard clipboard;
     FakeSettingsStore settings;
     std::unique_ptr<Program> program;
 };

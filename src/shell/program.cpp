@@ -6,6 +6,13 @@ using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
+namespace {
+
+/// The file that takes the answers which nothing reads.
+QString ScratchFile(const Project &project) { return project.path.AppPath() + u"tmp.mth"_s; }
+
+} // namespace
+
 Program::Program(const Doors &doors, const QString &programFolder)
     : options(doors.settings), hosts(programFolder), databaseFiles(SiteSchema()),
       project(programFolder, databaseFiles), recentFile(doors.settings),
@@ -14,6 +21,7 @@ Program::Program(const Doors &doors, const QString &programFolder)
       viewer(frmWebBrowser.BrowserPath, doors.documents, doors.dialogs),
       files({project, frame, frmStatus, recentFile, windowSettings, doors.dialogs, doors.queue}),
       startProject(project, files, doors.forms, doors.dialogs, doors.queue),
+      frmProjectDialog(project.path, files, recentFile, frmSettings.LoadLastProject, doors.dialogs),
       entry(project.record, doors.dialogs), siteSelection(project, doors.queue),
       categorySelection(project, doors.dialogs, doors.queue),
       siteDatabaseUpdate(
@@ -28,10 +36,24 @@ Program::Program(const Doors &doors, const QString &programFolder)
       channels({submitForm, result, project.lists, project.record.txtLimit, doors.queue, doors.clock},
                doors.makeClient),
       collector(project, files, frmStatus, doors.queue),
-      counter(doors.makeClient(), hosts, options, project.path.AppPath() + u"tmp.mth"_s),
+      counter(doors.makeClient(), hosts, options, ScratchFile(project)),
       run({project, frame, frmStatus, files, frmSettings, proxy, channels, submitForm, collector, counter,
-           result, report, statistics, viewer, doors.dialogs, doors.forms, doors.queue, doors.clock}) {
+           result, report, statistics, viewer, doors.dialogs, doors.forms, doors.queue, doors.clock}),
+      modes(run, frame, project.record), urlSlots(project.record),
+      frmMulti(project.record, run, doors.dialogs),
+      multiUrlJob({project, frame, urlSlots, run, result, viewer, doors.dialogs, doors.forms, doors.queue,
+                   doors.clock}),
+      frmWelcome({hosts, options, viewer, doors.dialogs, doors.forms, ScratchFile(project)},
+                 doors.makeClient()),
+      frmMain({project, frame, files, reportDocuments, submitForm, frmSettings, frmWebBrowser, frmWelcome,
+               modes, viewer, hosts, doors.forms, doors.dialogs, doors.help}),
+      webSearch({project, frame, hosts, proxy, viewer, doors.dialogs}, doors.makeClient()),
+      startUp({project, frame, frmSplash, frmWelcome, frmMain, frmSettings, frmWebBrowser, options,
+               windowSettings, proxy, recentFile, files, startProject, categorySelection, run,
+               reportTemplates, doors.queue}),
+      shutDown({startUp, project, frame, files, options, doors.dialogs, ScratchFile(project)}) {
     files.SetImport(&siteDatabaseUpdate);
+    modes.JoinMultipleUrls([this] { multiUrlJob.SubmitMultipleUrls(); });
     for (int number = 1; number <= channelCount; ++number)
         proxy.AddClient(channels.Channel(number).Client());
 }

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "database/database_files.h"
+#include "modes/multi_form.h"
+#include "modes/multi_url_job.h"
 #include "project/category_selection.h"
 #include "project/entry_handlers.h"
+#include "project/project_dialog.h"
 #include "project/project_files.h"
 #include "project/site_database_update.h"
 #include "project/site_selection.h"
@@ -12,7 +15,11 @@
 #include "reports/report_form.h"
 #include "reports/site_list_print.h"
 #include "reports/statistics.h"
+#include "research/web_search.h"
 #include "settings/web_browser_form.h"
+#include "shell/main_form.h"
+#include "shell/shut_down.h"
+#include "shell/start_up.h"
 #include "submission/run_estimate.h"
 #include "submission/submission_run.h"
 
@@ -29,10 +36,13 @@ struct Doors {
     Clipboard &clipboard;
     SettingsStore &settings;
     ChannelBank::ClientFactory makeClient;
+    HelpViewer *help = nullptr; ///< none on a face that shows no help
 };
 
 /// One running program without its faces: every form's model and every procedure, made in the order in which
-/// they need each other. The window, the command line and tests work its controls and handlers.
+/// they need each other. The window, the command line and tests work its controls and handlers. The window
+/// calls startUp.Run, works until EventQueue::Closing, and then calls shutDown.Run; the command line has a
+/// start and an end of its own.
 class Program {
 public:
     /// `programFolder` holds the master database.
@@ -54,6 +64,7 @@ public:
 
     ProjectFiles files;
     StartProject startProject;
+    ProjectDialog frmProjectDialog;
     EntryHandlers entry;
     SiteSelection siteSelection;
     CategorySelection categorySelection;
@@ -73,6 +84,18 @@ public:
     RequestCollector collector;
     HitCounter counter;
     SubmissionRun run;
+    ModeCommands modes;
+    UrlSlots urlSlots;
+    MultiForm frmMulti;
+    MultiUrlJob multiUrlJob;
+
+    WelcomeForm frmWelcome;
+    MainForm frmMain;
+    WebSearch webSearch;
+    SplashForm frmSplash;
+    ReportTemplates reportTemplates;
+    StartUp startUp;
+    ShutDown shutDown;
 };
 
 } // namespace lanterra

@@ -91,6 +91,8 @@ public:
     void mnuDisabled_Click(int number) { parts.channels.Channel(number).mnuDisabled_Click(); }
 
     bool RunActive() const { return runActive; }
+    /// What a mode without a run of its own does at its end.
+    void ClearRunActive() { SetRunActive(false); }
 
     // The state that a job over several URLs shares with the run.
     int urlCounter = 0;    ///< number of the current URL, raised at each close of a run

@@ -2,6 +2,7 @@
 
 #include "platform/qt_event_queue.h"
 #include "platform/socket_http_client.h"
+#include "tests/file_bytes.h"
 #include "tests/platform/raw_server.h"
 #include "tests/qt_printing.h"
 
@@ -41,6 +42,11 @@ protected:
                          [this](int code) { Log(QStringLiteral("Error %1").arg(code)); });
     }
 
+    void UseProxy(quint16 port) {
+        client->SetProxyServer(QStringLiteral(" 127.0.0.1 "));
+        client->SetProxyPort(port);
+    }
+
     QString Address(const QString &scheme) const {
         return QStringLiteral("%1://127.0.0.1:%2/").arg(scheme).arg(server.serverPort());
     }
@@ -54,6 +60,11 @@ protected:
     }
 
     /// Runs one exchange and tells its events.
+    QString Exchange(const QByteArray &answer, Then then = Then::Hold) {
+        server.answer = answer;
+        server.then = then;
+        return Exchange();
+    }
     QString Exchange() {
         Begin();
         WaitFor([this] { return events.endsWith(u"Closing") || events.contains(u"Error"); });
@@ -67,10 +78,7 @@ protected:
         return condition();
     }
 
-    QByteArray Page() const {
-        QFile file(page);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no page");
-    }
+    QByteArray Page() const { return BytesOf(page); }
 
     void Log(const QString &event) {
         if (event != u"Data" || !events.endsWith(event))

@@ -16,6 +16,10 @@ public:
 
     explicit RawServer(const QHostAddress &address = QHostAddress::LocalHost) { listen(address); }
 
+    /// Answers the last connection, whatever it has said.
+    void AnswerUnread() { Answer(*last); }
+    bool HandshakeIsThrough() const { return last && last->isEncrypted(); }
+
     QByteArray answer;
     Then then = Then::Hold;
     QSslConfiguration tls;       ///< none for plain http
@@ -26,7 +30,7 @@ public:
 protected:
     void incomingConnection(qintptr descriptor) override {
         ++connections;
-        auto *const socket = new QSslSocket(this);
+        auto *const socket = last = new QSslSocket(this);
         socket->setSocketDescriptor(descriptor);
         socket->setSslConfiguration(tls);
         connect(socket, &QSslSocket::readyRead, this, [this, socket] { Serve(*socket); });
@@ -41,14 +45,14 @@ private:
             socket.write("HTTP/1.1 200 Go on\r\nContent-Length: 5\r\n\r\n");
             socket.startServerEncryption();
         } else if (socket.objectName().isEmpty()) {
-            socket.setObjectName(QStringLiteral("answered"));
-            socket.write(answer);
-            socket.flush();
-            End(socket);
+            Answer(socket);
         }
     }
 
-    void End(QSslSocket &socket) const {
+    void Answer(QSslSocket &socket) const {
+        socket.setObjectName(QStringLiteral("answered"));
+        socket.write(answer);
+        socket.flush();
         const linger atOnce = {.l_onoff = 1, .l_linger = 0};
         const int descriptor = static_cast<int>(socket.socketDescriptor());
         if (then == Then::Close) {
@@ -60,6 +64,8 @@ private:
             socket.abort();
         }
     }
+
+    QSslSocket *last = nullptr;
 };
 
 } // namespace lanterra

@@ -8,15 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray Text(const QByteArray &method, const QString &target, const QByteArray &headers) {
-    QString problem;
-    return RequestText({method, target, headers, false}, ParseTarget(target, problem).value());
-}
-
 TEST(TargetAddress, TakesApartWhatPeopleType) {
-    const struct {
-        QString text, hostName, resource;
-    } rows[] = {
+    const QList<QStringList> rows{
         {u"http://a.example"_s, u"a.example"_s, u"/"_s},
         {u"  HTTP://A.Example:80/x y?q=1#top "_s, u"a.example"_s, u"/x y?q=1"_s},
         {u"https://a.example:80/"_s, u"a.example:80"_s, u"/"_s},
@@ -26,32 +19,22 @@ TEST(TargetAddress, TakesApartWhatPeopleType) {
         {u"http://[FE80::1]"_s, u"[fe80::1]"_s, u"/"_s},
         {u"http://b\u00fccher.example:/"_s, u"xn--bcher-kva.example"_s, u"/"_s},
     };
-    for (const auto &row : rows) {
+    for (const QStringList &row : rows) {
         QString problem;
-        const auto target = ParseTarget(row.text, problem);
-        ASSERT_TRUE(target) << row.text.toStdString() << problem.toStdString();
-        EXPECT_EQ(target->HostName(), row.hostName);
-        EXPECT_EQ(target->resource, row.resource);
+        const auto target = ParseTarget(row[0], problem);
+        ASSERT_TRUE(target) << row[0].toStdString() << problem.toStdString();
+        EXPECT_EQ(target->HostName(), row[1]);
+        EXPECT_EQ(target->resource, row[2]);
     }
 }
 
 TEST(TargetAddress, RefusesWhatNamesNoHostOrPort) {
-    const QStringList texts = {
-        u""_s,
-        u"a.example/x"_s,
-        u"ftp://a.example/"_s,
-        u"http://"_s,
-        u"http:///x"_s,
-        u"http://a b.example/"_s,
-        u"http://a\r\nX: y/"_s,
-        u"http://a..example/"_s,
-        u"http://"_s + QString(64, u'a') + u".example/"_s,
-        u"http://[::1/"_s,
-        u"http://[::g]/"_s,
-        u"http://a.example:0/"_s,
-        u"http://a.example:65536/"_s,
-        u"http://a.example:+80/"_s,
-    };
+    const QStringList hosts{
+        u""_s,       u"/x"_s,           u"a b.example/"_s,  u"a\r\nX: y/"_s, u"a..example"_s,  u"[::1/"_s,
+        u"[::g]/"_s, u"a.example:0/"_s, u"a.example:+80"_s, u"a:65536/"_s,   QString(64, u'a')};
+    QStringList texts{u""_s, u"a.example/x"_s, u"ftp://a.example/"_s};
+    for (const QString &host : hosts)
+        texts << u"http://"_s + host;
     for (const QString &text : texts) {
         QString problem;
         EXPECT_FALSE(ParseTarget(text, problem)) << text.toStdString();
@@ -60,27 +43,34 @@ TEST(TargetAddress, RefusesWhatNamesNoHostOrPort) {
 }
 
 TEST(RequestText, SendsHeadersAsTheyAreAndAddsWhatTheyLack) {
-    EXPECT_EQ(Text("GET", u"http://a.example:81/x"_s, ""), "GET /x HTTP/1.1\r\nHost: a.example:81\r\n\r\n");
-    EXPECT_EQ(Text("GET", u"http://a.example"_s, "X_Y: host\r\nHOST: z\r\n"),
-              "GET / HTTP/1.1\r\nX_Y: host\r\nHOST: z\r\n\r\n");
-    EXPECT_EQ(Text("GET", u"http://a.example"_s, "Host: z"), "GET / HTTP/1.1\r\nHost: z\r\n\r\n");
-    EXPECT_EQ(Text("POST", u"http://a.example/f"_s, "CONTENT-LENGTH: 13\r\n\r\nhost: a\r\n\r\nb"),
-              "POST /f HTTP/1.1\r\nHost: a.example\r\nContent-Type: application/x-www-form-urlencoded\r\n"
-              "CONTENT-LENGTH: 13\r\n\r\nhost: a\r\n\r\nb");
-    EXPECT_EQ(Text("POST", u"http://a.example/f"_s, "HOST: z\r\nCONTENT-TYPE: text/plain\r\n\r\n"),
-              "POST /f HTTP/1.1\r\nHOST: z\r\nCONTENT-TYPE: text/plain\r\n\r\n");
-}
-
-TEST(RequestText, EncodesTheRequestLineByteByByte) {
-    EXPECT_EQ(Text("GET", u"http://a.example/\u00e9 \u20ac%20\u043f?q=\u00e9\u0431\x7F\t&r"_s, "Host: z\r\n"),
-              "GET /%E9%20%80%20%D0%BF?q=%E9?%7F%09&r HTTP/1.1\r\nHost: z\r\n\r\n");
-}
-
-TEST(RequestText, ALineBreakInTheAddressStartsNoHeaderLine) {
-    const QString target = u"http://a.example/?q=a\r\n\r\nEvil: 1 2"_s;
-    EXPECT_EQ(Text("GET", target, "HOST: z\r\nREFERER: " + target.toLatin1() + "\r\n"),
-              "GET /?q=a%0D%0A%0D%0AEvil:%201%202 HTTP/1.1\r\nHOST: z\r\n"
-              "REFERER: http://a.example/?q=a%0D%0A%0D%0AEvil: 1 2\r\n\r\n");
+    const struct {
+        QByteArray method;
+        QString target;
+        QByteArray headers, text;
+    } rows[] = {
+        {"GET", u"a.example:81/x"_s, "", "GET /x HTTP/1.1\r\nHost: a.example:81\r\n\r\n"},
+        {"GET", u"a.example"_s, "X_Y: host\r\nHOST: z\r\n", "GET / HTTP/1.1\r\nX_Y: host\r\nHOST: z\r\n\r\n"},
+        {"GET", u"a.example"_s, "Host: z", "GET / HTTP/1.1\r\nHost: z\r\n\r\n"},
+        {"POST", u"a.example/f"_s, "CONTENT-LENGTH: 13\r\n\r\nhost: a\r\n\r\nb",
+         "POST /f HTTP/1.1\r\nHost: a.example\r\nContent-Type: application/x-www-form-urlencoded\r\n"
+         "CONTENT-LENGTH: 13\r\n\r\nhost: a\r\n\r\nb"},
+        {"POST", u"a.example/f"_s, "HOST: z\r\nCONTENT-TYPE: text/plain\r\n\r\n",
+         "POST /f HTTP/1.1\r\nHOST: z\r\nCONTENT-TYPE: text/plain\r\n\r\n"},
+        // the request line is encoded byte by byte
+        {"GET", u"a.example/\u00e9 \u20ac%20\u043f?q=\u00e9\u0431\x7F\t&r"_s, "Host: z\r\n",
+         "GET /%E9%20%80%20%D0%BF?q=%E9?%7F%09&r HTTP/1.1\r\nHost: z\r\n\r\n"},
+        // a line break in the address starts no header line
+        {"GET", u"a.example/?q=a\r\n\r\nEvil: 1 2"_s,
+         "HOST: z\r\nREFERER: http://a.example/?q=a\r\n\r\nEvil: 1 2\r\n",
+         "GET /?q=a%0D%0A%0D%0AEvil:%201%202 HTTP/1.1\r\nHOST: z\r\n"
+         "REFERER: http://a.example/?q=a%0D%0A%0D%0AEvil: 1 2\r\n\r\n"},
+    };
+    for (const auto &row : rows) {
+        QString problem;
+        const QString target = u"http://"_s + row.target;
+        EXPECT_EQ(RequestText({row.method, target, row.headers, false}, ParseTarget(target, problem).value()),
+                  row.text);
+    }
 }
 
 TEST(RequestText, AProxyGetsTheWholeAddress) {

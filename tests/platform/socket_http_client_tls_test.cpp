@@ -1,5 +1,4 @@
 #include "tests/platform/client_fixture.h"
-#include "tests/platform/resetting_server.h"
 
 #include <QProcess>
 #include <QSslKey>
@@ -21,38 +20,24 @@ protected:
         ASSERT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
     }
 
-    QByteArray Read(const QString &name) const {
-        QFile file(folder.filePath(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
     // The server gets a certificate for this host. The client trusts the authority that signed it, and no
     // other.
     void Secure(const QString &host = u"IP:127.0.0.1"_s, const QString &days = u"1"_s) {
         const QString newKey = u" -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -keyout "_s;
         OpenSsl(u"req -x509 -subj /CN=authority -out authority"_s + newKey + u"authority.key"_s);
         OpenSsl(u"req -new -subj /CN=test -out request -addext subjectAltName="_s + host + newKey + u"key"_s);
-        OpenSsl(
-            u"x509 -req -in request -CA authority -CAkey authority.key -CAcreateserial -copy_extensions copy "
-            "-out certificate -days "_s +
-            days);
+        OpenSsl(u"x509 -req -in request -CA authority -CAkey authority.key -CAcreateserial "
+                "-copy_extensions copy -out certificate -days "_s +
+                days);
         server.tls = QSslConfiguration::defaultConfiguration();
-        server.tls.setLocalCertificate(QSslCertificate(Read(u"certificate"_s)));
-        server.tls.setPrivateKey(QSslKey(Read(u"key"_s), QSsl::Ec));
-        client->SetCertificateAuthorities({QSslCertificate(Read(u"authority"_s))});
+        server.tls.setLocalCertificate(QSslCertificate(BytesOf(folder.filePath(u"certificate"_s))));
+        server.tls.setPrivateKey(QSslKey(BytesOf(folder.filePath(u"key"_s)), QSsl::Ec));
+        client->SetCertificateAuthorities({QSslCertificate(BytesOf(folder.filePath(u"authority"_s)))});
     }
 
-    struct Refusal {
-        QByteArray answer;
-        Then then;
-        QString reason;
-    };
-
-    void ExpectRefusal(const Refusal &refusal) {
-        server.answer = refusal.answer;
-        server.then = refusal.then;
-        EXPECT_TRUE(Exchange().startsWith(u"Error"_s)) << events.toStdString();
-        EXPECT_EQ(client->FailureReason(), refusal.reason);
+    void ExpectRefusal(const QByteArray &answer, Then then, const QString &reason) {
+        EXPECT_TRUE(Exchange(answer, then).startsWith(u"Error"_s)) << events.toStdString();
+        EXPECT_EQ(client->FailureReason(), reason);
         EXPECT_EQ(Page(), "old page");
     }
 };
@@ -63,42 +48,32 @@ TEST_F(SocketHttpClientTlsTest, AClosingAlertMakesAnEndOrderly) {
         QByteArray answer;
         Then then;
         QString events;
-    } rows[] = {
-        {good, Then::Hold, done},     {good, Then::Cut, done},       {endless, Then::Close, done},
-        {endless, Then::Cut, cutOff}, {tooShort, Then::Cut, cutOff},
-    };
+    } rows[] = {{good, Then::Hold, done},
+                {good, Then::Cut, done},
+                {endless, Then::Close, done},
+                {endless, Then::Cut, cutOff},
+                {tooShort, Then::Cut, cutOff}};
     for (const auto &row : rows) {
-        server.answer = row.answer;
-        server.then = row.then;
-        EXPECT_EQ(Exchange(), row.events) << row.answer.toStdString() << int(row.then);
+        EXPECT_EQ(Exchange(row.answer, row.then), row.events) << row.answer.toStdString() << int(row.then);
         EXPECT_EQ(Page(), "hello body\n");
     }
     EXPECT_TRUE(server.received.startsWith("GET / HTTP/1.1\r\nHOST: z\r\n\r\n"));
-}
-
-TEST_F(SocketHttpClientTlsTest, ALargeAnswerArrivesWhole) {
-    Secure();
-    server.answer = endless + QByteArray(5000000, 'x');
-    server.then = Then::Close;
-    EXPECT_EQ(Exchange(), done);
+    EXPECT_EQ(Exchange(endless + QByteArray(5000000, 'x'), Then::Close), done);
     EXPECT_EQ(client->BodyBytes(), 5000011);
 }
 
 // The server's reset is there before the client writes, and the answer lies unread in front of it.
 TEST_F(SocketHttpClientTlsTest, AnAnswerThatComesBeforeTheRequestWasReadCounts) {
     Secure();
-    ResettingServer early(server.tls, good);
-    client->SetTarget(u"https://127.0.0.1:%1/"_s.arg(early.port));
     QObject::disconnect(client.get(), &HttpClient::Connected, nullptr, nullptr);
     QObject::connect(client.get(), &HttpClient::Connected, client.get(), [&] {
-        EXPECT_TRUE(WaitFor([&] { return early.stands.available() > 0; }));
-        early.go.release();
-        EXPECT_TRUE(early.reset.tryAcquire(1, 5000));
+        EXPECT_TRUE(WaitFor([&] { return server.HandshakeIsThrough(); }));
+        server.AnswerUnread();
         client->SetRequestHeaders("CONTENT-LENGTH: 900000\r\n\r\n" + QByteArray(900000, 'x'));
         client->SendPost();
         Log(u"Connected"_s);
     });
-    EXPECT_EQ(Exchange(), done) << client->FailureReason().toStdString();
+    EXPECT_EQ(Exchange(good, Then::Reset), done) << client->FailureReason().toStdString();
     EXPECT_EQ(Page(), "hello body\n");
 }
 
@@ -119,43 +94,40 @@ TEST_F(SocketHttpClientTlsTest, ALargeRequestArrivesWhole) {
 
 TEST_F(SocketHttpClientTlsTest, CertificatesAreChecked) {
     Secure(u"IP:127.0.0.1"_s, u"-1"_s);
-    ExpectRefusal({good, Then::Hold, u"The certificate has expired"_s});
+    ExpectRefusal(good, Then::Hold, u"The certificate has expired"_s);
     Secure(u"DNS:other.example"_s);
-    ExpectRefusal({good, Then::Hold, u"The certificate belongs to another host"_s});
+    ExpectRefusal(good, Then::Hold, u"The certificate belongs to another host"_s);
     Secure();
     client->SetCertificateAuthorities({});
-    ExpectRefusal({good, Then::Hold, u"The certificate is not trusted"_s});
+    ExpectRefusal(good, Then::Hold, u"The certificate is not trusted"_s);
     EXPECT_EQ(server.received, "");
 }
 
 TEST_F(SocketHttpClientTlsTest, AFailedHandshakeTellsItsReason) {
-    ExpectRefusal({"HTTP/1.1 400 Bad\r\n\r\n", Then::Hold, u"The server doesn't speak TLS on this port"_s});
     const QByteArray protocolVersionAlert("\x15\x03\x01\0\x02\x02\x46", 7);
-    ExpectRefusal({protocolVersionAlert, Then::Hold, u"The server offers no TLS version that is safe"_s});
-    ExpectRefusal({"", Then::Close, u"The server closed the connection during the TLS handshake"_s});
+    ExpectRefusal("HTTP/1.1 400 Bad\r\n\r\n", Then::Hold, u"The server doesn't speak TLS on this port"_s);
+    ExpectRefusal(protocolVersionAlert, Then::Hold, u"The server offers no TLS version that is safe"_s);
+    ExpectRefusal("", Then::Close, u"The server closed the connection during the TLS handshake"_s);
 }
 
 TEST_F(SocketHttpClientTlsTest, AProxyOpensATunnelToTheServer) {
     Secure(u"DNS:site.example"_s);
     server.expectsConnect = true;
-    server.answer = good;
     client->SetTarget(u"https://site.example/x"_s);
-    client->SetProxyServer(u"127.0.0.1"_s);
-    client->SetProxyPort(server.serverPort());
-    EXPECT_EQ(Exchange(), done) << client->FailureReason().toStdString();
+    UseProxy(server.serverPort());
+    EXPECT_EQ(Exchange(good), done) << client->FailureReason().toStdString();
     EXPECT_EQ(server.received, "CONNECT site.example:443 HTTP/1.1\r\nHost: site.example:443\r\n\r\n"
                                "GET /x HTTP/1.1\r\nHOST: z\r\n\r\n");
 }
 
 TEST_F(SocketHttpClientTlsTest, ARefusedTunnelFailsAndItsPageIsNotTheSites) {
-    client->SetProxyServer(u"127.0.0.1"_s);
-    client->SetProxyPort(server.serverPort());
-    ExpectRefusal({"HTTP/1.1 407 Who\r\n\r\npage", Then::Hold, u"The proxy refused the connection (407)"_s});
-    ExpectRefusal({"HTTP/1.1 502 Bad\r\n\r\npage", Then::Close, u"The proxy refused the connection (502)"_s});
+    UseProxy(server.serverPort());
     const QString unclear = u"The proxy's answer can't be understood: "_s;
-    ExpectRefusal({"HTTP/1.1 200 OK\r\n\r\npage", Then::Hold, unclear + u"it is too long"_s});
-    ExpectRefusal({"hello\n", Then::Hold, unclear + u"The server doesn't answer in HTTP"_s});
-    ExpectRefusal({"", Then::Close, u"The proxy can't be used: The connection was closed"_s});
+    ExpectRefusal("HTTP/1.1 407 Who\r\n\r\npage", Then::Hold, u"The proxy refused the connection (407)"_s);
+    ExpectRefusal("HTTP/1.1 502 Bad\r\n\r\npage", Then::Close, u"The proxy refused the connection (502)"_s);
+    ExpectRefusal("HTTP/1.1 200 OK\r\n\r\npage", Then::Hold, unclear + u"it is too long"_s);
+    ExpectRefusal("hello\n", Then::Hold, unclear + u"The server doesn't answer in HTTP"_s);
+    ExpectRefusal("", Then::Close, u"The proxy can't be used: The connection was closed"_s);
 }
 
 } // namespace

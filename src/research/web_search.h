@@ -70,6 +70,10 @@ public:
     QString AnswerFile() const { return client->SaveFile(); }
     const QString &Failure() const { return failure; }
 
+private:
+    SearchEngines engines; ///< made before cobEngine, which offers them
+
+public:
     ComboBox cobEngine;
     TextBox txtKeywords;
     CheckBox Search_ShowInWebBrowser; ///< show an answer as soon as it is saved
@@ -96,7 +100,6 @@ private:
     QString WithAbsoluteLinks(QString answer) const;
 
     Parts parts;
-    SearchEngines engines;
     std::unique_ptr<HttpClient> client; ///< Inet20
     bool searchBusy = false;
     QString searchUrl;      ///< empty if the engine has no host

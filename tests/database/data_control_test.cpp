@@ -1,7 +1,5 @@
 #include "tests/database/database_fixture.h"
 
-#include <QElapsedTimer>
-
 using namespace lanterra;
 using namespace Qt::StringLiterals;
 
@@ -29,20 +27,17 @@ TEST_F(DataControlTest, WalksInStoredOrderAndAddsBehindTheLastRow) {
 
 TEST_F(DataControlTest, ReadsEveryTypeAsTextNumberAndBoolean) {
     GivenRows({u"12 s"_s});
-    control.Edit();
-    control.SetBoolean(visits, true);
-    control.Update();
-    control.Refresh();
     EXPECT_EQ(control.Number(nameField), 12);
-    EXPECT_EQ(control.Text(visits), u"-1"_s);
-    EXPECT_TRUE(control.Boolean(visits));
     EXPECT_TRUE(control.IsNull(note));
     EXPECT_EQ(control.Text(note), QString());
     control.Edit();
+    control.SetBoolean(visits, true);
     control.SetText(note, u"9e99"_s);
     control.SetText(nameField, QString());
     control.Update();
     control.Refresh();
+    EXPECT_EQ(control.Text(visits), u"-1"_s);
+    EXPECT_TRUE(control.Boolean(visits));
     EXPECT_EQ(control.Number(note), 2147483647);
     EXPECT_FALSE(control.IsNull(nameField));
 }
@@ -97,47 +92,21 @@ TEST_F(DataControlTest, SeesWhatAnotherControlCommits) {
     EXPECT_EQ(control.Text(nameField), u"Beta"_s);
 }
 
-TEST_F(DataControlTest, CloseReleasesTheFileWithItsLastControl) {
-    GivenRows({u"Alta"_s});
-    Bind(second);
-    control.Close();
-    EXPECT_FALSE(control.Edit());
-    EXPECT_TRUE(Add(second, u"Beta"_s));
-    second.Close();
-    EXPECT_EQ(FilesLeft(), QStringList({u"sites.rts"_s}));
-    EXPECT_TRUE(control.Refresh());
-    EXPECT_EQ(control.RowCount(), 2);
-}
-
-TEST_F(DataControlTest, AReadOnlyControlChangesNothingWhileAnotherOneWrites) {
+TEST_F(DataControlTest, AReadOnlyControlChangesNothingAndCloseReleasesTheFile) {
     DataControl reader(files, DataControl::Access::ReadOnly);
     Bind(reader);
     EXPECT_FALSE(reader.AddNew());
     Bind(second);
     EXPECT_TRUE(Add(second, u"Beta"_s));
     EXPECT_TRUE(reader.MoveFirst());
-    EXPECT_FALSE(reader.Edit());
-    EXPECT_FALSE(reader.Delete());
+    EXPECT_FALSE(reader.Edit() || reader.Delete());
     EXPECT_EQ(Names(reader), QStringList({u"Beta"_s}));
-}
-
-TEST_F(DataControlTest, AFileInUseFailsSoonAndIsReadAgainLater) {
-    GivenRows({u"Alta"_s});
-    Bind(second);
     second.Close();
-    SqliteConnection stranger(Path(), SqliteConnection::Mode::ReadWrite);
-    ASSERT_TRUE(stranger.Run(u"BEGIN EXCLUSIVE"_s));
-    QElapsedTimer timer;
-    timer.start();
-    EXPECT_FALSE(Add(control, u"Beta"_s));
-    EXPECT_LT(timer.restart(), 200);
-    EXPECT_EQ(control.Failure(), u"The file is in use by another program."_s);
-    EXPECT_FALSE(second.Refresh());
-    EXPECT_LT(timer.elapsed(), 200);
-    EXPECT_EQ(Names(control), QStringList({u"Alta"_s}));
-    stranger.Run(u"COMMIT"_s);
+    EXPECT_FALSE(second.Edit());
+    reader.Close();
+    EXPECT_EQ(FilesLeft(), QStringList({u"sites.rts"_s}));
     EXPECT_TRUE(second.Refresh());
-    EXPECT_EQ(Names(second), QStringList({u"Alta"_s}));
+    EXPECT_EQ(second.RowCount(), 1);
 }
 
 TEST_F(DataControlTest, NothingIsBoundWithoutAFileOrATable) {
@@ -161,10 +130,8 @@ TEST_F(DataControlTest, PathsMayHoldWhatAddressesEscape) {
     QFile::copy(Path(), odd);
     control.SetDatabaseName(odd);
     control.SetRecordSource(u"Sites"_s);
-    ASSERT_TRUE(control.Refresh());
-    EXPECT_TRUE(Add(control, u"Alta"_s));
+    ASSERT_TRUE(control.Refresh() && Add(control, u"Alta"_s));
     control.Close();
     EXPECT_TRUE(BytesOf(odd).contains("Alta"));
 }
-
 } // namespace

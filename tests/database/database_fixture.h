@@ -5,10 +5,10 @@
 #include "database/maintenance.h"
 #include "database/walk_transaction.h"
 #include "support/whole_file.h"
+#include "tests/file_bytes.h"
 #include "tests/qt_printing.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -21,15 +21,17 @@ protected:
 
     QString Path(const QString &name = QStringLiteral("sites.rts")) const { return folder.filePath(name); }
 
-    static QByteArray BytesOf(const QString &path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
     bool Bind(DataControl &bound, const QString &table = QStringLiteral("Sites")) {
         bound.SetDatabaseName(Path());
         bound.SetRecordSource(table);
         return bound.Refresh();
+    }
+
+    /// Leaves a page of a file without sense, behind its header.
+    static QByteArray Damage(const QString &path, qsizetype place) {
+        const QByteArray damaged = BytesOf(path).replace(place, 4096, QByteArray(4096, '\x55'));
+        WriteWholeFile(path, damaged);
+        return damaged;
     }
 
     static bool Add(DataControl &bound, const QString &name) {

@@ -32,8 +32,7 @@ TEST_F(MaintenanceTest, CompactionKeepsRowsAndOrderAndFreesRoom) {
     EXPECT_TRUE(CompactDatabase(Path(), Path(copy)));
     EXPECT_LT(QFile(Path(copy)).size(), QFile(Path()).size());
     EXPECT_EQ(FilesLeft(), QStringList({copy, u"sites.rts"_s}));
-    QFile::remove(Path());
-    QFile::rename(Path(copy), Path());
+    CopyWholeFile(Path(copy), Path());
     EXPECT_EQ(StoredNames(), names);
     EXPECT_EQ(names.size(), 100);
 }
@@ -60,9 +59,7 @@ TEST_F(MaintenanceTest, AnUnsoundOrUnknownDatabaseNeverTakesTheBackupsPlace) {
     EXPECT_EQ(StoredNames(), names);
     const QByteArray backup = BytesOf(Path(copy));
     EXPECT_FALSE(CompactThroughBackup(Path(), Path(copy), {}));
-    QByteArray damaged = BytesOf(Path());
-    damaged.replace(16384, 4096, QByteArray(4096, '\x55'));
-    WriteWholeFile(Path(), damaged);
+    const QByteArray damaged = Damage(Path(), 16384);
     EXPECT_FALSE(CompactThroughBackup(Path(), Path(copy), wanted));
     EXPECT_TRUE(BytesOf(Path(copy)) == backup && BytesOf(Path()) == damaged);
 }
@@ -81,9 +78,7 @@ TEST_F(MaintenanceTest, ACopyThatCanNotBeChangedAsWantedTakesNoPlace) {
 TEST_F(MaintenanceTest, RepairKeepsTheRowsOnBothSidesOfTheDamage) {
     GivenNumberedRows(3000);
     control.Close();
-    QByteArray damaged = BytesOf(Path());
-    damaged.replace(16384, 4096, QByteArray(4096, '\x55'));
-    WriteWholeFile(Path(), damaged);
+    Damage(Path(), 16384);
     ASSERT_FALSE(Bind(control));
     control.Close();
     EXPECT_TRUE(RepairDatabase(Path()));
@@ -99,8 +94,7 @@ TEST_F(MaintenanceTest, RepairKeepsTheRowsOnBothSidesOfTheDamage) {
 }
 
 TEST_F(MaintenanceTest, RepairGivesUpOnAFileWithoutReadableTables) {
-    const QByteArray sound = BytesOf(Path());
-    for (const QByteArray &bytes : {QByteArray(), QByteArray("text"), sound.first(100)}) {
+    for (const QByteArray &bytes : {QByteArray(), QByteArray("text"), BytesOf(Path()).first(100)}) {
         WriteWholeFile(Path(), bytes);
         EXPECT_FALSE(RepairDatabase(Path()));
         EXPECT_EQ(BytesOf(Path()), bytes);

@@ -31,6 +31,8 @@ HttpAnswer Park::Answer(const HttpRequest &request) {
     }
     if (const PracticeSite *site = sites.FindByPath(request.path))
         return AnswerSite(*site, request);
+    if (const MakerPage *page = makerPages.Find(request.path))
+        return AnswerMaker(*page, request);
     if (!OnlyReads(request))
         return Message(u"wrong-method"_s);
     if (request.path == "/")
@@ -121,6 +123,22 @@ HttpAnswer Park::SiteAnswer(const PracticeSite &site, const AnswerText &text,
             FillSlots(text.location, [&values](QStringView name) { return values.value(name.toString()); });
         answer.extraHeaders = "Location: " + location.toLatin1() + "\r\n";
     }
+    return answer;
+}
+
+HttpAnswer Park::AnswerMaker(const MakerPage &page, const HttpRequest &request) {
+    if (page.IsScript() ? request.method != "POST" : !OnlyReads(request))
+        return Message(u"wrong-method"_s);
+    if (page.IsScript()) {
+        const QList<FormField> fields = ParseFormFields(request.body);
+        const QString key = page.Judge(fields, received);
+        received.Add(page.receives, answers.Find(key).Outcome(), request, fields);
+        return Message(key);
+    }
+    if (page.text.isEmpty())
+        return Message(page.answer);
+    HttpAnswer answer = PageAnswer(QByteArray(page.text).replace("{{origin}}", origin.toLatin1()));
+    answer.contentType = "text/plain; charset=utf-8";
     return answer;
 }
 

@@ -4,6 +4,7 @@
 #include "park/behaviour.h"
 #include "park/gate.h"
 #include "park/http_message.h"
+#include "park/maker_pages.h"
 #include "park/park_pages.h"
 #include "park/received_log.h"
 #include "park/site_pages.h"
@@ -38,6 +39,7 @@ private:
     HttpAnswer SiteAnswer(const PracticeSite &site, const AnswerText &text,
                           const QHash<QString, QString> &values);
     QString Judge(const PracticeSite &site, const QList<FormField> &fields, QString &faultyField) const;
+    HttpAnswer AnswerMaker(const MakerPage &page, const HttpRequest &request);
     HttpAnswer Count(const HttpRequest &request);
     HttpAnswer Message(const QString &answerKey) const;
 
@@ -45,6 +47,7 @@ private:
     SiteTable sites;
     AnswerTable answers;
     BehaviourTable behaviours;
+    MakerPages makerPages;
     GateTable gates;
     QList<OpenGate> openGates;
     SitePages sitePages;

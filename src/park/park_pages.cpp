@@ -30,9 +30,11 @@ ParkPages::ParkPages() : templates(u":/park/park_pages.html"_s) {}
 
 QByteArray ParkPages::FrontPage(const SiteTable &sites, const AnswerTable &answers,
                                 qsizetype behaviourCount) const {
-    static const std::pair<QString, QString> kinds[] = {{u"search engine"_s, u"Search engines"_s},
-                                                        {u"directory"_s, u"Directories"_s},
-                                                        {u"link list"_s, u"Link lists"_s}};
+    static const std::pair<QString, QString> kinds[] = {
+        {u"search engine"_s, u"Search engines"_s},
+        {u"directory"_s, u"Directories"_s},
+        {u"link list"_s, u"Link lists"_s},
+        {u"semi-automated site"_s, u"Semi-automated sites"_s}};
     Html groups;
     for (const auto &[kind, heading] : kinds) {
         Html cards;

@@ -23,7 +23,7 @@ struct SiteField {
 /// A practice site: its form, its look, and how it answers.
 struct PracticeSite {
     QString name;
-    QString kind; ///< "search engine", "directory" or "link list"
+    QString kind; ///< "search engine", "directory", "link list" or "semi-automated site"
     QString slug; ///< the folder of its pages
     QString line; ///< its motto
     QString look; ///< the piece of the site pages that frames its pages

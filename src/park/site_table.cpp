@@ -3,6 +3,7 @@
 #include "park/form_fields.h"
 #include "park/json_resource.h"
 #include "park/query_fields.h"
+#include "support/text_file.h"
 
 #include <QJsonArray>
 #include <QUrl>
@@ -55,6 +56,18 @@ void ReadHabits(PracticeSite &site, const QJsonObject &habits) {
     site.keepsAlive = habits["keep"_L1].toBool();
 }
 
+/// A row has its categories in itself, or names the option list from which the page of ready-filled forms
+/// takes them. Such a list is HTML.
+QStringList CategoriesOf(const QJsonObject &row) {
+    if (!row.contains("options"_L1))
+        return row["categories"_L1].toVariant().toStringList();
+    QStringList values;
+    const QString list = ReadFileText(u":/park/options/%1.txt"_s.arg(row["options"_L1].toString()));
+    for (const QString &option : list.split(u'\n', Qt::SkipEmptyParts))
+        values.append(option.section(u'|', 0, 0).replace("&amp;"_L1, "&"_L1));
+    return values;
+}
+
 PracticeSite MakeSite(const QJsonObject &row, const QJsonObject &allHabits, const QJsonObject &placeholders) {
     PracticeSite site;
     site.name = row["name"_L1].toString();
@@ -62,7 +75,7 @@ PracticeSite MakeSite(const QJsonObject &row, const QJsonObject &allHabits, cons
     site.post = row["method"_L1].toString() == u"post";
     site.path = QUrl(row["action"_L1].toString()).path().toLatin1();
     site.slug = QString::fromLatin1(FolderOf(site.path));
-    site.categories = row["categories"_L1].toVariant().toStringList();
+    site.categories = CategoriesOf(row);
     const QJsonObject habits = allHabits[site.slug].toObject();
     ReadHabits(site, habits);
     for (const QueryField &field : QueryFields(row["query"_L1].toString()))
@@ -75,10 +88,12 @@ PracticeSite MakeSite(const QJsonObject &row, const QJsonObject &allHabits, cons
 SiteTable::SiteTable() {
     const QJsonObject habits = ReadJsonResource(u":/park/site_habits.json"_s).object();
     const QJsonObject placeholders = ReadJsonResource(u":/park/placeholders.json"_s).object();
-    const QJsonArray rows = ReadJsonResource(u":/park/sites.json"_s)["sites"_L1].toArray();
-    for (const QJsonValueConstRef &row : rows) {
-        sites.push_back(MakeSite(row.toObject(), habits, placeholders));
-        rowBySlug.insert(sites.back().slug.toLatin1(), sites.size() - 1);
+    for (const QString &table : {u":/park/sites.json"_s, u":/park/semi_sites.json"_s}) {
+        const QJsonArray rows = ReadJsonResource(table)["sites"_L1].toArray();
+        for (const QJsonValueConstRef &row : rows) {
+            sites.push_back(MakeSite(row.toObject(), habits, placeholders));
+            rowBySlug.insert(sites.back().slug.toLatin1(), sites.size() - 1);
+        }
     }
 }
 

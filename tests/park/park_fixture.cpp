@@ -1,5 +1,7 @@
 #include "tests/park/park_fixture.h"
 
+#include "tests/file_bytes.h"
+
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QTimer>
@@ -45,26 +47,8 @@ QByteArray RawPeer::Hears(qsizetype count) {
     return heard;
 }
 
-void ParkFixture::GivenServer(int latency) {
-    server = std::make_unique<ParkServer>(latency, log);
-    ASSERT_TRUE(server->Start(0));
-}
-
-QByteArray ParkFixture::Get(const QByteArray &target) {
-    return RawPeer(*server).Says("GET " + target + " HTTP/1.1\r\nConnection: close\r\n\r\n").HearsToTheEnd();
-}
-
-QByteArray ParkFixture::Post(const QByteArray &target, const QByteArray &body) {
-    return RawPeer(*server)
-        .Says("POST " + target + " HTTP/1.1\r\nCONNECTION: close\r\nCONTENT-LENGTH: " +
-              QByteArray::number(body.size()) + "\r\n\r\n" + body)
-        .HearsToTheEnd();
-}
-
 QStringList ParkFixture::LogLines() const {
-    QFile file(folder.filePath(u"park.log"_s));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).trimmed().split(u'\n')
-                                          : QStringList();
+    return QString::fromUtf8(BytesOf(folder.filePath(u"park.log"_s))).trimmed().split(u'\n');
 }
 
 } // namespace lanterra

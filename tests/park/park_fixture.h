@@ -18,7 +18,6 @@ bool RunUntil(const std::function<bool()> &condition);
 class RawPeer {
 public:
     explicit RawPeer(quint16 port);
-    explicit RawPeer(const ParkServer &server) : RawPeer(server.serverPort()) {}
 
     RawPeer &Says(const QByteArray &bytes);
     /// All that came until the server closed; what came so far if it doesn't.
@@ -27,24 +26,33 @@ public:
     QByteArray Hears(qsizetype count);
     void DoesNotRead() { socket.setReadBufferSize(1); }
     void HangsUp() { socket.abort(); }
-    bool IsConnected() const { return socket.state() == QAbstractSocket::ConnectedState; }
 
 private:
     QTcpSocket socket;
     QByteArray heard;
 };
 
+/// A practice web that listens on a port of its own.
 class ParkFixture : public testing::Test {
 protected:
-    void GivenServer(int latency = 0);
+    ParkFixture() { EXPECT_TRUE(server.Start(0)); }
 
-    QByteArray Get(const QByteArray &target);
-    QByteArray Post(const QByteArray &target, const QByteArray &body);
+    /// A new peer's whole conversation.
+    QByteArray Say(const QByteArray &bytes) {
+        return RawPeer(server.serverPort()).Says(bytes).HearsToTheEnd();
+    }
+    QByteArray Get(const QByteArray &target) {
+        return Say("GET " + target + " HTTP/1.1\r\nConnection: close\r\n\r\n");
+    }
+    QByteArray Post(const QByteArray &target, const QByteArray &body) {
+        return Say("POST " + target + " HTTP/1.1\r\nCONNECTION: close\r\nCONTENT-LENGTH: " +
+                   QByteArray::number(body.size()) + "\r\n\r\n" + body);
+    }
     QStringList LogLines() const;
 
     QTemporaryDir folder;
     AccessLog log{folder.filePath(QStringLiteral("park.log"))};
-    std::unique_ptr<ParkServer> server;
+    ParkServer server{0, log};
 };
 
 } // namespace lanterra

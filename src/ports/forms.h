@@ -3,7 +3,7 @@
 namespace lanterra {
 
 /// The forms that one part of the program opens and another one draws.
-enum class ModalForm { ProjectDialog, Settings, WebBrowser, Multi, Welcome, Report };
+enum class ModalForm { ProjectDialog, Settings, WebBrowser, Multi, Welcome, Report, TechSupp };
 
 /// The popup menus that buttons open. A channel's popup is told by its own entry.
 enum class PopupMenu { Submit, Cancel2, Engines, Status, Status2, Status3, Status4, Status5 };

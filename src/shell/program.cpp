@@ -43,17 +43,37 @@ Program::Program(const Doors &doors, const QString &programFolder)
       frmMulti(project.record, run, doors.dialogs),
       multiUrlJob({project, frame, urlSlots, run, result, viewer, doors.dialogs, doors.forms, doors.queue,
                    doors.clock}),
+      semiPage({project, result, collector, hosts, viewer, run}), top9Page({project, result, hosts, viewer}),
       frmWelcome({hosts, options, viewer, doors.dialogs, doors.forms, ScratchFile(project)},
                  doors.makeClient()),
       frmMain({project, frame, files, reportDocuments, submitForm, frmSettings, frmWebBrowser, frmWelcome,
                modes, viewer, hosts, doors.forms, doors.dialogs, doors.help}),
       webSearch({project, frame, hosts, proxy, viewer, doors.dialogs}, doors.makeClient()),
+      frmTechSupp({hosts, proxy, frame, frmMain.VerzijaPrograma, viewer, doors.dialogs, doors.forms,
+                   project.path.AppPath()},
+                  doors.makeClient()),
+      UpgradeIt1({hosts, proxy, viewer, doors.dialogs}, doors.makeClient()),
+      frmTop9({project.path.AppPath() + u"engine.dat"_s, frame, run, doors.dialogs, doors.queue, doors.clock},
+              doors.makeClient),
+      engineReport({project, frame, frmTop9, reportTemplates, doors.queue, doors.clock}),
+      topEngines({project, frame, urlSlots, run, result, frmTop9, engineReport, frmSettings, viewer,
+                  doors.dialogs, doors.queue, doors.clock}),
       startUp({project, frame, frmSplash, frmWelcome, frmMain, frmSettings, frmWebBrowser, options,
                windowSettings, proxy, recentFile, files, startProject, categorySelection, run,
                reportTemplates, doors.queue}),
       shutDown({startUp, project, frame, files, options, doors.dialogs, ScratchFile(project)}) {
     files.SetImport(&siteDatabaseUpdate);
+    QObject::connect(&files, &ProjectFiles::ProgramEnds, &frame, &MainFrame::RequestClose);
     modes.JoinMultipleUrls([this] { multiUrlJob.SubmitMultipleUrls(); });
+    modes.JoinTopEngines([this] { topEngines.SubmitTopEngines(); });
+    QObject::connect(&proxy, &ProxySettings::ProxyGiven, &frmTop9.Spider1, &Spider::SetProxy);
+    modes.JoinSemiPage([this] { semiPage.RunMode(); });
+    modes.JoinSupport([this] { frmTechSupp.Show(); });
+    modes.JoinUpgrade([this] { UpgradeIt1.CheckNow(); });
+    run.SetUpgradeCheck(&UpgradeIt1);
+    multiUrlJob.SetUpgradeCheck(&UpgradeIt1);
+    topEngines.SetUpgradeCheck(&UpgradeIt1);
+    QObject::connect(&UpgradeIt1, &UpgradeIt::ExitForUpgrade, &frame, &MainFrame::RequestClose);
     for (int number = 1; number <= channelCount; ++number)
         proxy.AddClient(channels.Channel(number).Client());
 }

@@ -3,6 +3,9 @@
 #include "database/database_files.h"
 #include "modes/multi_form.h"
 #include "modes/multi_url_job.h"
+#include "modes/semi_page.h"
+#include "modes/top9_page.h"
+#include "modes/top_engines.h"
 #include "project/category_selection.h"
 #include "project/entry_handlers.h"
 #include "project/project_dialog.h"
@@ -20,6 +23,8 @@
 #include "shell/main_form.h"
 #include "shell/shut_down.h"
 #include "shell/start_up.h"
+#include "shell/support_form.h"
+#include "shell/upgrade_it.h"
 #include "submission/run_estimate.h"
 #include "submission/submission_run.h"
 
@@ -88,12 +93,19 @@ public:
     UrlSlots urlSlots;
     MultiForm frmMulti;
     MultiUrlJob multiUrlJob;
+    SemiPage semiPage;
+    Top9Page top9Page;
 
     WelcomeForm frmWelcome;
     MainForm frmMain;
     WebSearch webSearch;
+    SupportForm frmTechSupp;
+    UpgradeIt UpgradeIt1;
     SplashForm frmSplash;
     ReportTemplates reportTemplates;
+    TopEnginesForm frmTop9;
+    EngineReport engineReport;
+    TopEngines topEngines;
     StartUp startUp;
     ShutDown shutDown;
 };

@@ -13,12 +13,10 @@ TEST(FileNamesTest, TellsFilesFromFoldersAndFromNothing) {
     const QTemporaryDir folder;
     const QString file = folder.filePath(u"page.htm"_s);
     ASSERT_TRUE(WriteWholeFile(file, "x"));
-    EXPECT_TRUE(FileExists(file));
-    EXPECT_FALSE(FileExists(file + u'/'));
-    EXPECT_FALSE(FileExists(file, true));
-    EXPECT_FALSE(FileExists(folder.path() + u'/') || FileExists(folder.path()));
-    EXPECT_TRUE(FileExists(folder.path() + u'/', true));
-    EXPECT_FALSE(FileExists(QString()) || FileExists(QString(), true));
+    EXPECT_TRUE(FileExists(file) && FileExists(folder.path() + u'/', true));
+    for (const QString &name : {file + u'/', folder.path() + u'/', folder.path(), QString()})
+        EXPECT_FALSE(FileExists(name)) << name.toStdString();
+    EXPECT_FALSE(FileExists(file, true) || FileExists(QString(), true));
 }
 
 TEST(FileNamesTest, CutsTheNameOffAPath) {

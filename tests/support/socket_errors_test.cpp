@@ -7,22 +7,14 @@
 using namespace lanterra;
 using namespace Qt::StringLiterals;
 
-TEST(SocketErrorsTest, TheTableHas51FullRowsInTheOrderOfTheirCodes) {
+TEST(SocketErrorsTest, GivesTheStandardsWords) {
     QFile file(u":/support/socket_errors.txt"_s);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = file.readAll().trimmed().split('\n');
     EXPECT_EQ(lines.size(), 51);
-    int last = -1;
-    for (const QByteArray &line : lines) {
-        const QList<QByteArray> columns = line.split('\t');
-        ASSERT_EQ(columns.size(), 3) << line.toStdString();
-        EXPECT_GT(columns[0].toInt(), last);
-        last = columns[0].toInt();
-        EXPECT_TRUE(columns[1].startsWith("WSA") && !columns[2].isEmpty()) << line.toStdString();
-    }
-}
-
-TEST(SocketErrorsTest, GivesTheStandardsWords) {
+    for (const QByteArray &line : lines)
+        EXPECT_NE(SocketErrorText(line.split('\t').first().toInt()), u"Unknown Error"_s)
+            << line.toStdString();
     QString name;
     EXPECT_EQ(SocketErrorText(69), u"Disc Quota Exceeded"_s);
     EXPECT_EQ(SocketErrorText(1004, &name),

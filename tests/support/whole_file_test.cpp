@@ -1,10 +1,10 @@
 #include "support/text_file.h"
 #include "support/whole_file.h"
+#include "tests/file_bytes.h"
 #include "tests/file_size_limit.h"
 #include "tests/qt_printing.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -18,10 +18,6 @@ class WholeFileTest : public testing::Test {
 protected:
     WholeFileTest() { WriteWholeFile(path, "old"); }
 
-    static QByteArray Content(const QString &name) {
-        QFile file(name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-    }
     QStringList Entries() const {
         return QDir(folder.path())
             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
@@ -39,9 +35,9 @@ TEST_F(WholeFileTest, TakesThePlaceOfTheOldFileAtCommitOnly) {
     WholeFile file(path);
     EXPECT_TRUE(file.Write("new "));
     EXPECT_TRUE(file.Write("text"));
-    EXPECT_EQ(Content(path), QByteArray("old"));
+    EXPECT_EQ(BytesOf(path), QByteArray("old"));
     EXPECT_TRUE(file.Commit());
-    EXPECT_EQ(Content(path), QByteArray("new text"));
+    EXPECT_EQ(BytesOf(path), QByteArray("new text"));
     EXPECT_EQ(Entries(), QStringList{u"page.htm"_s});
 }
 
@@ -50,28 +46,24 @@ TEST_F(WholeFileTest, AFullDiskLeavesTheOldFile) {
         const FileSizeLimit full(50);
         EXPECT_FALSE(WriteWholeFile(path, QByteArray(size, 'x'))) << size;
     }
-    EXPECT_EQ(Content(path), QByteArray("old"));
+    EXPECT_EQ(BytesOf(path), QByteArray("old"));
     EXPECT_EQ(Entries(), QStringList{u"page.htm"_s});
 }
 
-TEST_F(WholeFileTest, ReplacesALinkAndLeavesWhatItPointsAt) {
+TEST_F(WholeFileTest, ReplacesALinkAndGivesOrdinaryPermissions) {
+    const mode_t old = umask(022);
     const QString link = folder.filePath(u"link.htm"_s);
     QFile::link(path, link);
     EXPECT_TRUE(WriteWholeFile(link, "new"));
-    EXPECT_EQ(Content(path), QByteArray("old"));
-    EXPECT_EQ(Content(link), QByteArray("new"));
+    EXPECT_EQ(BytesOf(path), QByteArray("old"));
+    EXPECT_EQ(BytesOf(link), QByteArray("new"));
     EXPECT_FALSE(QFileInfo(link).isSymLink());
-    EXPECT_EQ(Entries(), (QStringList{u"link.htm"_s, u"page.htm"_s}));
-}
-
-TEST_F(WholeFileTest, GivesTheFileOrdinaryPermissions) {
-    const mode_t old = umask(022);
-    const QString fresh = folder.filePath(u"fresh"_s);
+    EXPECT_EQ(int(QFile::permissions(link)), 0x6644);
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
-    EXPECT_TRUE(WriteWholeFile(path, "new") && WriteWholeFile(fresh, "new"));
-    umask(old);
+    EXPECT_TRUE(WriteWholeFile(path, "new"));
     EXPECT_EQ(int(QFile::permissions(path)), 0x6600);
-    EXPECT_EQ(int(QFile::permissions(fresh)), 0x6644);
+    EXPECT_EQ(Entries(), (QStringList{u"link.htm"_s, u"page.htm"_s}));
+    umask(old);
 }
 
 TEST_F(WholeFileTest, CopiesAFileButNeverOntoItself) {
@@ -79,15 +71,15 @@ TEST_F(WholeFileTest, CopiesAFileButNeverOntoItself) {
     const QByteArray large(200'000, 'x');
     WriteWholeFile(path, large);
     EXPECT_TRUE(CopyWholeFile(path, copy));
-    EXPECT_EQ(Content(copy), large);
+    EXPECT_EQ(BytesOf(copy), large);
     EXPECT_FALSE(CopyWholeFile(path, folder.path() + u"/./page.htm"_s));
     EXPECT_FALSE(CopyWholeFile(folder.path(), copy));
-    EXPECT_EQ(Content(copy), large);
+    EXPECT_EQ(BytesOf(copy), large);
 }
 
 TEST_F(WholeFileTest, TextGoesThroughTheCodePage) {
     EXPECT_TRUE(WriteFileText(path, u"5 €\r\nΩ"_s));
-    EXPECT_EQ(Content(path), QByteArray("5 \x80\r\n?"));
+    EXPECT_EQ(BytesOf(path), QByteArray("5 \x80\r\n?"));
     EXPECT_EQ(ReadFileText(path), u"5 €\r\n?"_s);
 }
 

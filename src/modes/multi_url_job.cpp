@@ -77,12 +77,10 @@ void MultiUrlJob::WriteMultiIndex() {
     const Project &project = parts.project;
     QString &file = parts.result.reportFile;
     file = project.path.ProjectFolder + project.path.ProjectName + QDir::separator() + u"report.htm"_s;
-    const bool written =
+    indexWritten =
         WriteFileText(file, MultiIndexPage(project.record.multiUrlTable, project.record.MultiUrlUpper,
                                            urlReportFiles, parts.clock.Now()));
-    if (!written)
-        parts.result.notStored << u"The page of all reports could not be written: "_s + file;
-    else if (!parts.queue.Closing())
+    if (indexWritten && !parts.queue.Closing())
         parts.viewer.OpenDocument(file);
 }
 

@@ -36,6 +36,9 @@ public:
     /// addresses. A second call inside its own yields does nothing. Yields.
     void SubmitMultipleUrls();
 
+    /// False if the page of the last job could not be written.
+    bool IndexWritten() const { return indexWritten; }
+
 signals:
     /// Around each URL's run. The last one also comes when a check has stopped the run.
     void UrlStarted(int slot);
@@ -51,7 +54,8 @@ private:
     UrlFieldsCheck check;
     UpgradeCheck *upgrade = nullptr;
     QStringList urlReportFiles; ///< of the job's runs in their order, ten at most
-    bool active = false;        ///< a job is on the stack
+    bool indexWritten = true;
+    bool active = false; ///< a job is on the stack
 };
 
 } // namespace lanterra

@@ -1,0 +1,157 @@
+#include "tests/submission/run_fixture.h"
+
+#include <QLocale>
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class MultiUrlJobTest : public RunFixture {
+protected:
+    void GivenProject(int sites, int urls) {
+        GivenSites(Numbered(sites));
+        forms.onMenu[PopupMenu::Submit] = [this] { Run().mnuMultiple_Click(); };
+        Record().txtURL.SetText(QString());
+        program->frmMulti.Activate();
+        for (int i = 0; i < urls; ++i)
+            program->frmMulti.ListedURLs.AddItem(u"http://%1.example/"_s.arg(i));
+        program->frmMulti.cmdOK_Click();
+        Record().chkMultiSameDesc.SetValue(1);
+        QObject::connect(&program->multiUrlJob, &MultiUrlJob::UrlStarted, &program->multiUrlJob,
+                         [this](int slot) { Started(slot); });
+        QObject::connect(&program->multiUrlJob, &MultiUrlJob::UrlEnded, &program->multiUrlJob,
+                         [this](int slot) { ended << slot; });
+    }
+
+    /// The sites don't answer the first run of this slot; this happens instead.
+    void DuringRunOf(int slot, const ScriptedEventQueue::Step &step) {
+        silentSlot = slot;
+        WhenWaiting(step);
+    }
+    void Started(int slot) {
+        if (std::exchange(silentSlot, slot == silentSlot ? -1 : silentSlot) == slot)
+            NoSiteAnswers();
+        else
+            EverySiteAnswers("200 OK");
+    }
+
+    QByteArray Report(const QString &name) const {
+        QFile file(home.filePath(u"Projects/Project1/"_s + name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void Cancel(void (SubmissionRun::*entry)()) {
+        forms.onMenu[PopupMenu::Cancel2] = [this, entry] {
+            if (entry)
+                (Run().*entry)();
+        };
+        Run().cmdCancel_Click();
+    }
+
+    int silentSlot = -1;
+    QList<int> ended;
+};
+
+TEST_F(MultiUrlJobTest, TenUrlsOneCancelledAndOneEmptyLeaveReportsAndAnIndex) {
+    GivenProject(2, 10);
+    Record().multiUrlTable.SetCell(5, MultiUrlTable::urlColumn, u" "_s);
+    DuringRunOf(3, [&] { Cancel(&SubmissionRun::mnuCancelCurrent_Click); });
+    PressSubmit();
+    EXPECT_EQ(ended, (QList<int>{0, 1, 2, 3, 4, 6, 7, 8, 9}));
+    EXPECT_TRUE(Report(u"report/URL0/report.htm"_s).contains(">http://0.example/<"));
+    EXPECT_TRUE(Report(u"report/URL3/report.htm"_s).contains("Successful Registrations:  0"));
+    EXPECT_TRUE(Report(u"report/URL5/report.htm"_s).isEmpty());
+    EXPECT_TRUE(Report(u"report/URL9/report.htm"_s).contains(">http://9.example/<"));
+    EXPECT_EQ(Report(u"report/URL9/Site 2..htm"_s), "hello body\n");
+
+    QFile golden(QStringLiteral(GOLDEN_FOLDER "/multi_index.htm"));
+    ASSERT_TRUE(golden.open(QIODevice::ReadOnly));
+    const QString date = QLocale::system().toString(clock.Now().date(), QLocale::ShortFormat);
+    EXPECT_EQ(Report(u"report.htm"_s),
+              golden.readAll().replace("@HOME@", home.path().toLatin1()).replace("@DATE@", date.toLatin1()));
+    ASSERT_EQ(documents.opened.size(), 1U);
+    EXPECT_EQ(documents.opened[0].arguments, QStringList{home.filePath(u"Projects/Project1/report.htm"_s)});
+    EXPECT_EQ(Record().HScroll1.Value(), 0);
+    EXPECT_EQ(Record().txtURL.Text(), u"http://0.example/"_s);
+    EXPECT_TRUE(Run().multiIdle && !Run().multiActive && !Run().RunActive());
+    program->statistics.cmdOrder_Click();
+    EXPECT_EQ(program->statistics.Label42.Caption(), u"9"_s);
+}
+
+TEST_F(MultiUrlJobTest, PressesDuringARunDecideWhichUrlsFollow) {
+    const auto pressByHand = [&] {
+        PressSubmit();
+        EverySiteAnswers("200 OK");
+        for (int channel = 1; channel <= std::min(channelCount, List1().ListCount()); ++channel)
+            Answer(channel, "200 OK");
+    };
+    const struct {
+        const char *press;
+        ScriptedEventQueue::Step step;
+        QList<int> runs;
+    } cases[] = {
+        {"cancel current", [&] { Cancel(&SubmissionRun::mnuCancelCurrent_Click); }, {0, 1, 2, 3}},
+        {"cancel entire", [&] { Cancel(&SubmissionRun::mnuCancelEntire_Click); }, {0, 1}},
+        {"dismissed popup", [&] { Cancel(nullptr); }, {0, 1, 1, 2, 3}},
+        {"submit by hand", pressByHand, {0, 1, 3}},
+        {"end of the program", [&] { queue.Close(); }, {0, 1}},
+    };
+    for (const int sites :
+         {2, 7}) { // with two all are handed out by then, with seven they wait for a channel
+        GivenProject(sites, 4);
+        for (const auto &entry : cases) {
+            ended.clear();
+            DuringRunOf(1, entry.step);
+            PressSubmit();
+            EXPECT_EQ(ended, entry.runs) << entry.press << " with " << sites << " sites";
+            EXPECT_EQ(Report(u"report.htm"_s).count("/report/URL"), std::min<qsizetype>(entry.runs.size(), 4))
+                << entry.press;
+        }
+        queue.Close(false);
+        program.reset();
+        dialogs.answers = {BoxAnswer::Yes}; // the next project replaces this one
+    }
+}
+
+TEST_F(MultiUrlJobTest, WithoutSeveralUrlsItLeadsToTheirForm) {
+    GivenProject(1, 1);
+    PressSubmit();
+    ASSERT_EQ(dialogs.boxes.size(), 1U);
+    EXPECT_EQ(dialogs.boxes[0].text, u" Please enter multiple URLs ! "_s);
+    EXPECT_EQ(dialogs.boxes[0].icon, BoxIcon::Critical);
+    EXPECT_EQ(forms.shown, std::vector{ModalForm::Multi});
+    EXPECT_TRUE(ended.isEmpty());
+    EXPECT_FALSE(Run().RunActive() || Run().multiChosen);
+}
+
+TEST_F(MultiUrlJobTest, EachUrlNeedsItsTextsUnlessAllShareThem) {
+    GivenProject(1, 4);
+    ProjectRecord &record = Record();
+    record.chkMultiSameDesc.SetValue(0);
+    for (int column = 1; column < MultiUrlTable::columnCount; ++column) {
+        for (const int slot : {1, 2})
+            record.multiUrlTable.SetCell(slot, column, u"x"_s);
+    }
+    record.multiUrlTable.SetCell(3, MultiUrlTable::urlColumn, QString()); // emptied behind the last address
+    record.multiUrlTable.SetCell(1, MultiUrlTable::titleColumn, QString());
+    record.multiUrlTable.SetCell(2, MultiUrlTable::descColumn, u" "_s);
+    program->frame.ShowPane(Pane::FrameSUBMIT);
+    PressSubmit();
+    ASSERT_EQ(dialogs.boxes.size(), 1U);
+    EXPECT_EQ(dialogs.boxes[0].text, u" Please fill all text fields for each URL separately "_s);
+    EXPECT_EQ(record.HScroll1.Value(), 2);
+    EXPECT_EQ(program->frame.ShownPane(), Pane::FrameDescription);
+    EXPECT_TRUE(ended.isEmpty());
+
+    // A gap in slot 0 alone is found by the checks of its run, and the job goes on behind it.
+    record.multiUrlTable.SetCell(1, MultiUrlTable::titleColumn, u"One"_s);
+    record.multiUrlTable.SetCell(2, MultiUrlTable::descColumn, u"Two"_s);
+    record.multiUrlTable.SetCell(0, MultiUrlTable::titleColumn, QString());
+    PressSubmit();
+    EXPECT_EQ(dialogs.boxes.back().text, u"You must fill all text fields"_s);
+    EXPECT_EQ(ended, (QList<int>{0, 1, 2}));
+    EXPECT_TRUE(Report(u"report/URL0/report.htm"_s).isEmpty());
+    EXPECT_FALSE(Report(u"report/URL2/report.htm"_s).isEmpty());
+}
+
+} // namespace

@@ -6,9 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
-namespace {
-
-QByteArray EncodeControls(const QString &text) {
+QByteArray HeaderValue(const QString &text) {
     QByteArray encoded;
     for (const char byte : CodePage::Encode(text)) {
         const auto code = static_cast<unsigned char>(byte);
@@ -20,8 +18,6 @@ QByteArray EncodeControls(const QString &text) {
     return encoded;
 }
 
-} // namespace
-
 bool IsPost(const QString &method) { return method.compare("post"_L1, Qt::CaseInsensitive) == 0; }
 
 QString RequestTarget(const SiteRequest &request) {
@@ -30,7 +26,7 @@ QString RequestTarget(const SiteRequest &request) {
 }
 
 QByteArray SubmissionHeaders(const SiteRequest &request, const QString &hostName) {
-    QByteArray headers = "HOST: " + EncodeControls(hostName) +
+    QByteArray headers = "HOST: " + HeaderValue(hostName) +
                          "\r\n"
                          "USER_AGENT: Mozilla/4.0 (compatible; MSIE 4.01; Windows 98)\r\n"
                          "PRAGMA: no-cache\r\n"
@@ -39,7 +35,7 @@ QByteArray SubmissionHeaders(const SiteRequest &request, const QString &hostName
                          "ACCEPT_LANGUAGE: en\r\n"
                          "CONNECTION: Keep-Alive\r\n"
                          "REFERER: " +
-                         EncodeControls(RequestTarget(request)) + "\r\n";
+                         HeaderValue(RequestTarget(request)) + "\r\n";
     if (!IsPost(request.method))
         return headers;
     const QByteArray body = CodePage::Encode(request.query);

@@ -20,10 +20,12 @@ bool IsPost(const QString &method);
 /// address stands alone. A method that is neither "get" nor "post" thus drops the query.
 QString RequestTarget(const SiteRequest &request);
 
+/// A text as the value of a header line: in the code page, with control characters percent-encoded, so that a
+/// value can't begin a line of its own.
+QByteArray HeaderValue(const QString &text);
+
 /// The header lines of a submission in their fixed order and spelling, underscores included, and with POST
-/// the body behind them: what the client sends below the request line. Control characters in the host and in
-/// the referring page are percent-encoded, so that a value can't begin a line of its own; the body goes as it
-/// is.
+/// the body behind them, as it is: what the client sends below the request line.
 QByteArray SubmissionHeaders(const SiteRequest &request, const QString &hostName);
 
 } // namespace lanterra

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "modes/engine_report.h"
+#include "modes/url_fields_check.h"
+#include "modes/url_slots.h"
+#include "settings/document_viewer.h"
+#include "settings/settings_form.h"
+
+namespace lanterra {
+
+/// The top engines mode: sends one page, or all pages of a project with several URLs, to the engines of the
+/// engine file, through the spider of frmTop9. It has no sites, no verdicts by status and no statistics. Its
+/// calls stay on the stack until its end, and it waits inside the event queue for the form's answer and for
+/// the spider.
+class TopEngines : public QObject {
+    Q_OBJECT
+
+public:
+    struct Parts {
+        Project &project;
+        MainFrame &frame;
+        UrlSlots &urlSlots;
+        SubmissionRun &run;
+        RunResult &result; ///< whose report folder and file are used
+        TopEnginesForm &form;
+        EngineReport &report;
+        SettingsForm &frmSettings;
+        DocumentViewer &viewer;
+        Dialogs &dialogs;
+        EventQueue &queue;
+        const Clock &clock;
+    };
+
+    explicit TopEngines(const Parts &theParts);
+
+    /// None, and nothing is looked for beside the job.
+    void SetUpgradeCheck(UpgradeCheck *upgradeCheck) { upgrade = upgradeCheck; }
+
+    /// The whole mode: the checks, the form and its answer, the submission of each URL with a report of its
+    /// own, and the page that is opened at the end. A call inside its own yields only brings the form back.
+    /// Yields.
+    void SubmitTopEngines();
+
+signals:
+    /// The report of a URL has been written; the tasks of its spider can still be read.
+    void UrlEnded(int slot);
+
+private:
+    bool Prepare();
+    bool AskForAllUrls();
+    bool UrlIsGiven();
+    bool AwaitAnswer();
+    bool AwaitSelection();
+    void SubmitUrls();
+    void SubmitUrl(int slot);
+    void PrepareReportFolder(int slot);
+    QString ReportFolder(int slot) const;
+    void RunTopEnginesForUrl();
+    void ExpandRequests();
+    void FillSpiderTasks();
+    void CutFragment();
+    int TimeOutSeconds() const;
+    void ShowReports(int jobStart);
+
+    Parts parts;
+    UrlFieldsCheck check;
+    UpgradeCheck *upgrade = nullptr;
+    bool active = false;  ///< the mode is on the stack
+    bool allUrls = false; ///< the answer about several URLs was Yes
+};
+
+} // namespace lanterra

@@ -34,6 +34,10 @@ protected:
     void WhenWaiting(ScriptedEventQueue::Step step) { queue.WhenIdle(std::move(step)); }
 
     void PressSubmit() { program->run.cmdStart_Click(); }
+    void SubmitAnswered(const QByteArray &status) {
+        EverySiteAnswers(status);
+        PressSubmit();
+    }
 
     QStringList Successful() const {
         return Names(program->result.SuccessfulNames, Result().SuccessfulCount());

@@ -1,6 +1,7 @@
 #include "reports/site_pages.h"
 #include "support/code_page.h"
 #include "support/whole_file.h"
+#include "tests/file_bytes.h"
 #include "tests/hostile/hostile_texts.h"
 #include "tests/submission/run_fixture.h"
 
@@ -28,17 +29,12 @@ protected:
         files.sort();
         return files;
     }
-    QByteArray BytesOf(const QString &path) const {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
 };
 
 TEST_F(ReportFolderTest, HoldsAllThatHostileNamesLeaveBehind) {
     GivenSites(HostileTexts());
     List1().SetSelected(0, false);
-    EverySiteAnswers("200 OK");
-    PressSubmit();
+    SubmitAnswered("302 Found"); // first the client writes a page, then the program
     EXPECT_EQ(FilesBesidePages(), ownFiles);
     const QByteArray report = BytesOf(Result().reportFile);
     QStringList pages{u".htm"_s}; // of the empty name behind the list of sites that were not selected
@@ -75,8 +71,7 @@ TEST_F(ReportFolderTest, PutsFilesInThePlaceOfLinks) {
                             u"Projects/Project1/report/Left out.htm"_s, u"Projects/Project1/report/.htm"_s};
     for (const QString &link : links)
         ASSERT_TRUE(QFile::link(outside, home.filePath(link)));
-    EverySiteAnswers("302 Found");
-    PressSubmit();
+    SubmitAnswered("302 Found");
     EXPECT_EQ(BytesOf(outside), "precious");
     for (const QString &link : links)
         EXPECT_FALSE(QFileInfo(home.filePath(link)).isSymLink()) << link.toStdString();

@@ -15,7 +15,7 @@ namespace lanterra {
 void ShutDown::Run() {
     if (std::exchange(begun, true))
         return;
-    if (parts.startUp.Finished())
+    if (parts.startUp.Finished() && !parts.files.Ended())
         StoreAll();
     // Save As leaves its file open, and an answer can have come in while the steps above waited.
     parts.project.database.Unbind();

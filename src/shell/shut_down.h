@@ -25,9 +25,9 @@ public:
     explicit ShutDown(const Parts &theParts) : parts(theParts) {}
 
     /// Shuts the program down; a second call does nothing. Of a start that was cut short nothing is stored:
-    /// the options were not read yet, and nobody has typed anything. A step that fails is told in a box, and
-    /// the others follow; a project that can't be saved may be saved under another name. Asks whether to save
-    /// a project without a file. Yields.
+    /// the options were not read yet, and nobody has typed anything. Nor is anything after an import, which
+    /// has stored all there is. A step that fails is told in a box, and the others follow; a project that
+    /// can't be saved may be saved under another name. Asks whether to save a project without a file. Yields.
     void Run();
 
 private:

@@ -20,7 +20,7 @@ bool StartUp::Load(const QString &commandLine) {
     ResetUrls();
     parts.project.record.chkMultiSameDesc.SetValue(parts.options.Number(option::sameDescription).value_or(0));
     WelcomeNewUser();
-    if (parts.queue.Closing())
+    if (Closing())
         return false;
     ForgetStartupOnce();
     parts.frame.SetPointer(MousePointer::Default);
@@ -30,7 +30,7 @@ bool StartUp::Load(const QString &commandLine) {
     parts.recent.Load();
     TakeLastProject();
     OpenDatabases(commandLine);
-    if (parts.queue.Closing())
+    if (Closing())
         return false;
     parts.project.path.ComputeStatsFilePath();
     parts.frame.SetVisible(true);
@@ -84,7 +84,7 @@ void StartUp::OpenDatabases(const QString &commandLine) {
         parts.startProject.ChooseStartProject(commandLine);
     else
         project.database.BindProject();
-    if (!parts.queue.Closing())
+    if (!Closing())
         parts.files.LoadProject();
     parts.frame.SetPointer(MousePointer::Default);
 }

@@ -12,8 +12,8 @@
 namespace lanterra {
 
 /// Brings the program up, in one fixed order: the options, the project that is opened in the middle of it,
-/// the lists. docs/start-and-stop.md tells the order. The program can be closed meanwhile; the start then
-/// ends behind the form that was up.
+/// the lists. docs/start-and-stop.md tells the order. The program can be closed meanwhile, also by an import
+/// into the project; the start then ends behind the form that was up.
 class StartUp {
 public:
     struct Parts {
@@ -46,6 +46,7 @@ public:
     bool Finished() const { return finished; }
 
 private:
+    bool Closing() const { return parts.queue.Closing() || parts.files.Ended(); }
     bool Load(const QString &commandLine);
     void ResetUrls();
     void WelcomeNewUser();

@@ -83,7 +83,6 @@ protected:
     std::vector<FakeHttpClient *> clients;
     std::unique_ptr<Program> program;
 
-private:
     std::unique_ptr<HttpClient> MakeClient() {
         auto client = std::make_unique<FakeHttpClient>();
         clients.push_back(client.get());

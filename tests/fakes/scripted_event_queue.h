@@ -31,7 +31,8 @@ public:
     /// Runs when a wait finds nothing posted, one step a wait, in this order. The clock then stands.
     void WhenIdle(Step step) { idle.push_back(std::move(step)); }
 
-    void Close() { closing = true; }
+    /// False takes it back, for a program that is started anew.
+    void Close(bool on = true) { closing = on; }
     int Yields() const { return yields; }
 
 private:

@@ -1,4 +1,4 @@
-#include "cli/interrupt.h"
+#include "platform/interrupt.h"
 
 #include <QSocketNotifier>
 #include <sys/signalfd.h>
@@ -16,10 +16,13 @@ Interrupt::Interrupt() {
     }
     pthread_sigmask(SIG_BLOCK, &signalsOfUser, &oldMask);
     descriptor = signalfd(-1, &signalsOfUser, SFD_CLOEXEC | SFD_NONBLOCK);
-    if (descriptor < 0) {
+    if (descriptor < 0)
         pthread_sigmask(SIG_SETMASK, &oldMask, nullptr); // the signals end the process, as without this
+}
+
+void Interrupt::Watch() {
+    if (descriptor < 0)
         return;
-    }
     auto *const notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, &Interrupt::TakeSignal);
 }

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "shell/program.h"
+
+#include <QWidget>
+#include <memory>
+
+namespace Ui {
+class DescriptionPane;
+}
+
+namespace lanterra {
+
+/// The pane FrameDescription: the page itself, and which of several URLs is on show.
+class DescriptionPane : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit DescriptionPane(Program &program);
+    ~DescriptionPane() override;
+    Q_DISABLE_COPY_MOVE(DescriptionPane)
+
+private:
+    void ShowDescriptionLength(const QString &text);
+    void ShowUrlNumber();
+
+    const ProjectRecord &record;
+    std::unique_ptr<Ui::DescriptionPane> ui;
+};
+
+} // namespace lanterra

@@ -1,0 +1,65 @@
+#include "window/entry_events.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QWidget>
+
+namespace lanterra {
+
+namespace {
+
+// The focus only moves for good inside the program: a menu or another program gives it back.
+bool MovesForGood(Qt::FocusReason reason) {
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+           reason != Qt::MenuBarFocusReason;
+}
+
+bool IsReturn(const QEvent &event) {
+    const int key = static_cast<const QKeyEvent &>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+} // namespace
+
+EntryEvents::EntryEvents(ProjectRecord &projectRecord, EntryHandlers &entryHandlers, QWidget &pane)
+    : QObject(&pane), record(projectRecord), entry(entryHandlers) {
+    for (const ProjectRecord::TextField &field : record.TextFields()) {
+        if (auto *widget = pane.findChild<QWidget *>(field.name)) {
+            boxes.insert(widget, field.box);
+            widget->installEventFilter(this);
+        }
+    }
+}
+
+bool EntryEvents::eventFilter(QObject *watched, QEvent *event) {
+    TextBox *const box = boxes.value(watched);
+    if (!box)
+        return false;
+    if (event->type() == QEvent::FocusIn && MovesForGood(static_cast<QFocusEvent *>(event)->reason()))
+        GotFocus(*box);
+    else if (event->type() == QEvent::FocusOut && MovesForGood(static_cast<QFocusEvent *>(event)->reason()))
+        LostFocus(*box);
+    else if (event->type() == QEvent::KeyPress && IsReturn(*event))
+        return entry.ReturnPressed(*box);
+    return false;
+}
+
+// Behind the event, because the press of the mouse that brought the focus would take the selection back.
+void EntryEvents::GotFocus(TextBox &box) {
+    QMetaObject::invokeMethod(
+        this, [this, &box] { entry.GotFocus(box); }, Qt::QueuedConnection);
+}
+
+// The warnings are boxes of their own, which must not come up while the focus is on its way.
+void EntryEvents::LostFocus(const TextBox &box) {
+    if (&box == &record.txtURL)
+        entry.txtURL_LostFocus();
+    else if (&box == &record.txtTitle)
+        QMetaObject::invokeMethod(
+            this, [this] { entry.txtTitle_LostFocus(); }, Qt::QueuedConnection);
+    else if (&box == &record.txtDesc)
+        QMetaObject::invokeMethod(
+            this, [this] { entry.txtDesc_LostFocus(); }, Qt::QueuedConnection);
+}
+
+} // namespace lanterra

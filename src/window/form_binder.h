@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QWidget>
+
+namespace lanterra {
+
+/// Joins the controls of a form's model to the widgets and actions of the same object name: each shows the
+/// other's value, is enabled and visible as the control says, and takes the focus when asked. What a press
+/// does is the form's own wiring.
+class FormBinder {
+public:
+    /// Sets by this name, on each joined widget and action, the dynamic property that tells that it has a
+    /// control.
+    static constexpr auto boundProperty = "hasControl";
+
+    explicit FormBinder(QWidget &formWidget) : form(formWidget) {}
+
+    /// Joins every named child of the model for which the form has a widget or an action; the others are
+    /// passed over, because a model can be spread over several forms. A widget of an unfitting class is a
+    /// fault of the form and ends the program. The model must outlive the form.
+    void Bind(const QObject &model) const;
+
+private:
+    QWidget &form;
+};
+
+} // namespace lanterra

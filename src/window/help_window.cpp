@@ -1,0 +1,73 @@
+#include "window/help_window.h"
+
+#include "ui_help_window.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace lanterra {
+
+namespace {
+
+constexpr int fileRole = Qt::UserRole;
+constexpr int indexWidth = 230;
+
+QString ReadText(const QString &fileName) {
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+} // namespace
+
+HelpWindow::HelpWindow(QWidget *parent) : QDialog(parent), ui(std::make_unique<Ui::HelpWindow>()) {
+    ui->setupUi(this);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    ui->index->setModel(&pages);
+    ui->splitter->setSizes({indexWidth, width() - indexWidth});
+    ui->splitter->setStretchFactor(1, 1);
+    connect(ui->index->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex &current) { ShowPage(current.data(fileRole).toString()); });
+    connect(ui->back, &QPushButton::clicked, ui->page, &QTextBrowser::backward);
+    connect(ui->forward, &QPushButton::clicked, ui->page, &QTextBrowser::forward);
+    connect(ui->page, &QTextBrowser::backwardAvailable, ui->back, &QPushButton::setEnabled);
+    connect(ui->page, &QTextBrowser::forwardAvailable, ui->forward, &QPushButton::setEnabled);
+    connect(ui->close, &QPushButton::clicked, this, &QDialog::close);
+}
+
+HelpWindow::~HelpWindow() = default;
+
+QString HelpWindow::ShowIndex(const QString &helpFile) {
+    const QString indexName = ReadText(helpFile).trimmed();
+    const QString indexPage = QFileInfo(helpFile).dir().filePath(indexName);
+    if (indexName.isEmpty() || !QFileInfo::exists(indexPage))
+        return tr("The help file %1 can't be read.").arg(QDir::toNativeSeparators(helpFile));
+    ListPages(indexPage);
+    ShowPage(indexPage);
+    show();
+    raise();
+    activateWindow();
+    return {};
+}
+
+void HelpWindow::ListPages(const QString &indexPage) {
+    static const QRegularExpression link(u"\\[([^\\]]+)\\]\\(([^)#:]+\\.md)\\)"_s);
+    pages.clear();
+    QRegularExpressionMatchIterator found = link.globalMatch(ReadText(indexPage));
+    while (found.hasNext()) {
+        const QRegularExpressionMatch match = found.next();
+        auto *const item = new QStandardItem(match.captured(1));
+        item->setData(QFileInfo(indexPage).dir().filePath(match.captured(2)), fileRole);
+        item->setEditable(false);
+        pages.appendRow(item);
+    }
+}
+
+void HelpWindow::ShowPage(const QString &file) {
+    if (!file.isEmpty())
+        ui->page->setSource(QUrl::fromLocalFile(file), QTextDocument::MarkdownResource);
+}
+
+} // namespace lanterra

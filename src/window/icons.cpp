@@ -1,0 +1,84 @@
+#include "window/icons.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QFile>
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+using namespace Qt::StringLiterals;
+
+namespace lanterra {
+
+namespace {
+
+constexpr auto iconNameProperty = "iconName";
+constexpr QByteArrayView strokeColour = "#5c6670"; ///< of the files, where the text colour takes its place
+
+class ThemedIconEngine final : public QIconEngine {
+public:
+    explicit ThemedIconEngine(const QString &iconName) : name(iconName) {}
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override {
+        QSvgRenderer renderer(Drawing(Colour(mode)));
+        renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+        if (mode == QIcon::Disabled)
+            painter->setOpacity(disabledOpacity);
+        renderer.render(painter, rect);
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
+        const QString key =
+            u"%1/%2x%3/%4/%5"_s.arg(name, QString::number(size.width()), QString::number(size.height()),
+                                    Colour(mode).name(), QString::number(mode));
+        QPixmap pixmap;
+        if (QPixmapCache::find(key, &pixmap))
+            return pixmap;
+        pixmap = QPixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect({}, size), mode, state);
+        QPixmapCache::insert(key, pixmap);
+        return pixmap;
+    }
+
+    QIconEngine *clone() const override { return new ThemedIconEngine(*this); }
+
+private:
+    static constexpr qreal disabledOpacity = 0.4;
+
+    static QColor Colour(QIcon::Mode mode) {
+        const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
+        return QGuiApplication::palette().color(role);
+    }
+
+    QByteArray Drawing(const QColor &colour) const {
+        QFile file(u":/icons/"_s + name + u".svg"_s);
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        return file.readAll().replace(strokeColour, colour.name().toLatin1());
+    }
+
+    QString name;
+};
+
+} // namespace
+
+QIcon ThemedIcon(const QString &name) { return QIcon(new ThemedIconEngine(name)); }
+
+void ApplyIcons(QWidget &form) {
+    for (auto *button : form.findChildren<QAbstractButton *>()) {
+        if (const QString name = button->property(iconNameProperty).toString(); !name.isEmpty())
+            button->setIcon(ThemedIcon(name));
+    }
+    for (auto *action : form.findChildren<QAction *>()) {
+        if (const QString name = action->property(iconNameProperty).toString(); !name.isEmpty())
+            action->setIcon(ThemedIcon(name));
+    }
+}
+
+} // namespace lanterra

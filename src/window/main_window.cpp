@@ -1,0 +1,109 @@
+#include "window/main_window.h"
+
+#include "ui_main_window.h"
+#include "window/about_pane.h"
+#include "window/category_pane.h"
+#include "window/description_pane.h"
+#include "window/form_binder.h"
+#include "window/icons.h"
+#include "window/main_menus.h"
+#include "window/other_data_pane.h"
+#include "window/run_status.h"
+#include "window/search_pane.h"
+#include "window/sites_pane.h"
+#include "window/statistics_pane.h"
+#include "window/submit_pane.h"
+#include "window/widget_forms.h"
+
+#include <QCloseEvent>
+#include <QStyle>
+
+namespace lanterra {
+
+MainWindow::MainWindow(Program &theProgram, WidgetForms &widgetForms)
+    : program(theProgram), ui(std::make_unique<Ui::MainWindow>()) {
+    ui->setupUi(this);
+    ApplyIcons(*this);
+    AddPanes(widgetForms);
+    JoinPaneButtons();
+    new MainMenus(*ui, program, widgetForms, *this);
+    new RunStatus(program, *ui->statusbar);
+    FormBinder(*this).Bind(program.frmMain);
+    JoinFrame();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::AddPanes(WidgetForms &forms) {
+    AddPane(Pane::FrameAbout, new AboutPane(program), nullptr);
+    AddPane(Pane::FrameDescription, new DescriptionPane(program), ui->cmdKeyword);
+    AddPane(Pane::FrameOtherData, new OtherDataPane(program), ui->cmdDesc);
+    AddPane(Pane::FrameEngineList, new SitesPane(program, forms), ui->cmdEngines);
+    AddPane(Pane::fraCat, new CategoryPane(program), ui->Command14);
+    AddPane(Pane::FrameSUBMIT, new SubmitPane(program), ui->cmdSubmit);
+    AddPane(Pane::FraSta, new StatisticsPane(program), ui->cmdOrder);
+    AddPane(Pane::fraSearch, new SearchPane(program), ui->Command5);
+}
+
+void MainWindow::AddPane(Pane pane, QWidget *widget, QPushButton *button) {
+    ui->panes->addWidget(widget);
+    panes[pane] = {widget, button};
+}
+
+void MainWindow::JoinPaneButtons() {
+    MainForm &form = program.frmMain;
+    connect(ui->cmdKeyword, &QPushButton::clicked, this, [&form] { form.cmdKeyword_Click(); });
+    connect(ui->cmdDesc, &QPushButton::clicked, this, [&form] { form.cmdDesc_Click(); });
+    connect(ui->cmdEngines, &QPushButton::clicked, this, [&form] { form.cmdEngines_Click(); });
+    connect(ui->Command14, &QPushButton::clicked, this, [&form] { form.Command14_Click(); });
+    connect(ui->cmdSubmit, &QPushButton::clicked, this, [&form] { form.cmdSubmit_Click(); });
+    connect(ui->cmdOrder, &QPushButton::clicked, this, [this] { program.statistics.cmdOrder_Click(); });
+    connect(ui->Command5, &QPushButton::clicked, this, [this] { program.webSearch.Command5_Click(); });
+}
+
+void MainWindow::JoinFrame() {
+    MainFrame &frame = program.frame;
+    connect(&frame, &MainFrame::VisibleChanged, this, &MainWindow::setVisible);
+    connect(&frame, &MainFrame::CaptionChanged, this, &MainWindow::setWindowTitle);
+    connect(&frame, &MainFrame::PaneShown, this, &MainWindow::ShowPane);
+    connect(&frame, &MainFrame::PointerChanged, this, &MainWindow::ShowPointer);
+    connect(&frame, &MainFrame::CloseRequested, this, &MainWindow::EndWanted);
+    // The box that takes the focus out of the way has no widget: the window itself takes it.
+    connect(&program.project.record.txtName, &Control::FocusRequested, ui->central,
+            [this] { ui->central->setFocus(); });
+    setWindowTitle(frame.Caption());
+    ShowPane(frame.ShownPane());
+}
+
+void MainWindow::ShowPane(Pane pane) {
+    for (const auto &[each, face] : panes) {
+        const auto &[widget, button] = face;
+        if (each == pane)
+            ui->panes->setCurrentWidget(widget);
+        if (!button)
+            continue;
+        button->setProperty("shown", each == pane);
+        button->style()->unpolish(button);
+        button->style()->polish(button);
+    }
+}
+
+void MainWindow::ShowPointer(MousePointer pointer) {
+    switch (pointer) {
+    case MousePointer::Hourglass:
+        return setCursor(Qt::WaitCursor);
+    case MousePointer::Busy:
+    case MousePointer::WaitingArrow:
+        return setCursor(Qt::BusyCursor);
+    case MousePointer::Arrow:
+    case MousePointer::Default:
+        return unsetCursor();
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent *event) {
+    event->ignore();
+    emit EndWanted();
+}
+
+} // namespace lanterra

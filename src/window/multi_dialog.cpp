@@ -1,0 +1,52 @@
+#include "window/multi_dialog.h"
+
+#include "ui_multi_dialog.h"
+#include "window/form_binder.h"
+
+#include <QKeyEvent>
+
+namespace lanterra {
+
+MultiDialog::MultiDialog(MultiForm &multiForm, QWidget *parent)
+    : FormDialog(parent, [&multiForm] { multiForm.cmdCancel_Click(); }), form(multiForm),
+      ui(std::make_unique<Ui::MultiDialog>()) {
+    ui->setupUi(this);
+    FormBinder(*this).Bind(form);
+    Follow(form);
+    ui->ListedURLs->installEventFilter(this);
+    // A line that was typed to its end leads to the next one.
+    connect(
+        &form.ListedURLs, &QAbstractItemModel::rowsInserted, this,
+        [this](const QModelIndex &, int, int last) { EditLine(last + 1); }, Qt::QueuedConnection);
+    connect(ui->cmdOK, &QPushButton::clicked, this, [this] { form.cmdOK_Click(); });
+    connect(ui->cmdCancel, &QPushButton::clicked, this, [this] { form.cmdCancel_Click(); });
+}
+
+MultiDialog::~MultiDialog() = default;
+
+// Only while the user types here: lines also come when the form fills its list.
+void MultiDialog::EditLine(int row) {
+    if (!ui->ListedURLs->hasFocus())
+        return;
+    const QModelIndex line = form.ListedURLs.index(row);
+    ui->ListedURLs->setCurrentIndex(line);
+    ui->ListedURLs->edit(line);
+}
+
+bool MultiDialog::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() != QEvent::KeyPress)
+        return FormDialog::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    const int row = ui->ListedURLs->currentIndex().row();
+    if (key == Qt::Key_Delete) {
+        form.ListedURLs.RemoveItem(row);
+        return true;
+    }
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        ui->ListedURLs->edit(ui->ListedURLs->currentIndex());
+        return true;
+    }
+    return FormDialog::eventFilter(watched, event);
+}
+
+} // namespace lanterra

@@ -1,0 +1,120 @@
+#include "window/widget_dialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+
+using namespace Qt::StringLiterals;
+
+namespace lanterra {
+
+namespace {
+
+QMessageBox::Icon IconOf(BoxIcon icon) {
+    switch (icon) {
+    case BoxIcon::Critical:
+        return QMessageBox::Critical;
+    case BoxIcon::Question:
+        return QMessageBox::Question;
+    case BoxIcon::Exclamation:
+        return QMessageBox::Warning;
+    case BoxIcon::Information:
+        return QMessageBox::Information;
+    case BoxIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButton ButtonOf(BoxAnswer answer) {
+    switch (answer) {
+    case BoxAnswer::Yes:
+        return QMessageBox::Yes;
+    case BoxAnswer::No:
+        return QMessageBox::No;
+    case BoxAnswer::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+// The system's texts end their lines with CR LF and some end in blanks, which a label would show.
+QString ForScreen(QString text) { return text.replace("\r\n"_L1, "\n"_L1).trimmed(); }
+
+/// "Text (*.a)|*.a|All|*" as Qt writes it.
+QStringList NameFilters(const QString &filter) {
+    const QStringList parts = filter.split(u'|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString name = parts.at(i).section(u'(', 0, 0).trimmed();
+        filters << u"%1 (%2)"_s.arg(name, parts.at(i + 1));
+    }
+    return filters;
+}
+
+std::optional<QString> Chosen(QFileDialog &chooser, const FileDialog &dialog) {
+    chooser.setNameFilters(NameFilters(dialog.filter));
+    if (!dialog.folder.isEmpty())
+        chooser.setDirectory(dialog.folder);
+    chooser.setDefaultSuffix(dialog.defaultExtension);
+    chooser.selectFile(dialog.fileName);
+    if (chooser.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return chooser.selectedFiles().value(0);
+}
+
+} // namespace
+
+BoxAnswer WidgetDialogs::Show(const MessageBox &box) {
+    QMessageBox message(QApplication::activeWindow());
+    message.setWindowTitle(box.title);
+    message.setIcon(IconOf(box.icon));
+    message.setTextFormat(Qt::PlainText);
+    message.setText(ForScreen(box.text));
+    message.setInformativeText(ForScreen(box.detail));
+    for (QLabel *label : message.findChildren<QLabel *>())
+        label->setTextFormat(Qt::PlainText); // setTextFormat leaves the informative text out
+    const auto buttons = box.buttons == BoxButtons::YesNo ? QMessageBox::Yes | QMessageBox::No
+                                                          : QMessageBox::StandardButtons(QMessageBox::Ok);
+    message.setStandardButtons(buttons);
+    message.setDefaultButton(ButtonOf(box.defaultAnswer));
+    message.setEscapeButton(ButtonOf(box.defaultAnswer));
+    message.exec();
+    const QAbstractButton *const pressed = message.clickedButton();
+    if (pressed == message.button(QMessageBox::Yes) && pressed)
+        return BoxAnswer::Yes;
+    if (pressed == message.button(QMessageBox::No) && pressed)
+        return BoxAnswer::No;
+    return box.buttons == BoxButtons::Ok ? BoxAnswer::Ok : box.defaultAnswer;
+}
+
+QString WidgetDialogs::Ask(const InputBox &box) {
+    QInputDialog input(QApplication::activeWindow());
+    input.setWindowTitle(box.title);
+    input.setLabelText(ForScreen(box.prompt));
+    input.setTextValue(box.defaultText);
+    for (QLabel *label : input.findChildren<QLabel *>()) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    input.setMinimumWidth(input.fontMetrics().averageCharWidth() * 70);
+    return input.exec() == QDialog::Accepted ? input.textValue() : QString();
+}
+
+std::optional<QString> WidgetDialogs::OpenFile(const FileDialog &dialog) {
+    QFileDialog chooser(QApplication::activeWindow(), QObject::tr("Open"));
+    chooser.setFileMode(QFileDialog::AnyFile); // a name that is not there yet is an answer, too
+    chooser.setAcceptMode(QFileDialog::AcceptOpen);
+    return Chosen(chooser, dialog);
+}
+
+std::optional<QString> WidgetDialogs::SaveFile(const FileDialog &dialog) {
+    QFileDialog chooser(QApplication::activeWindow(), QObject::tr("Save As"));
+    chooser.setFileMode(QFileDialog::AnyFile);
+    chooser.setAcceptMode(QFileDialog::AcceptSave);
+    return Chosen(chooser, dialog);
+}
+
+} // namespace lanterra

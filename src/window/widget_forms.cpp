@@ -1,0 +1,31 @@
+#include "window/widget_forms.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCursor>
+
+namespace lanterra {
+
+namespace {
+
+QPoint PopUpPlace() {
+    const QPoint pointer = QCursor::pos();
+    const auto *const button = qobject_cast<QAbstractButton *>(QApplication::focusWidget());
+    if (!button || button->rect().contains(button->mapFromGlobal(pointer)))
+        return pointer;
+    return button->mapToGlobal(button->rect().bottomLeft());
+}
+
+} // namespace
+
+void WidgetForms::ShowModal(ModalForm form) {
+    if (const auto found = forms.find(form); found != forms.end())
+        found->second();
+}
+
+void WidgetForms::PopUp(PopupMenu menu) {
+    if (const auto found = menus.find(menu); found != menus.end())
+        found->second->exec(PopUpPlace());
+}
+
+} // namespace lanterra

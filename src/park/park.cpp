@@ -59,8 +59,11 @@ const Behaviour *Park::BehaviourAt(const QByteArray &path) const {
 }
 
 HttpAnswer Park::AnswerSite(const PracticeSite &site, const HttpRequest &request) {
-    if (request.path == site.path) {
-        const bool fits = request.method == (site.post ? "POST" : "GET");
+    // A script that is the home page itself shows its form to whoever sends nothing.
+    const bool asksForForm =
+        request.path == site.Home().toLatin1() && request.query.isEmpty() && OnlyReads(request);
+    if (request.path == site.path && !asksForForm) {
+        const bool fits = site.takesEither || request.method == (site.post ? "POST" : "GET");
         return fits ? Submit(site, request) : Message(u"wrong-method"_s);
     }
     if (!OnlyReads(request))
@@ -74,7 +77,7 @@ HttpAnswer Park::AnswerSite(const PracticeSite &site, const HttpRequest &request
 }
 
 HttpAnswer Park::Submit(const PracticeSite &site, const HttpRequest &request) {
-    const QList<FormField> fields = ParseFormFields(site.post ? request.body : request.query);
+    const QList<FormField> fields = ParseFormFields(request.method == "POST" ? request.body : request.query);
     QString faultyField;
     const AnswerText text = answers.Find(Judge(site, fields, faultyField));
     const QString outcome = site.behaviour.isEmpty() ? text.Outcome() : site.behaviour;

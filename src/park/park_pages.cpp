@@ -34,7 +34,8 @@ QByteArray ParkPages::FrontPage(const SiteTable &sites, const AnswerTable &answe
         {u"search engine"_s, u"Search engines"_s},
         {u"directory"_s, u"Directories"_s},
         {u"link list"_s, u"Link lists"_s},
-        {u"semi-automated site"_s, u"Semi-automated sites"_s}};
+        {u"semi-automated site"_s, u"Semi-automated sites"_s},
+        {u"top engine"_s, u"Top search engines"_s}};
     Html groups;
     for (const auto &[kind, heading] : kinds) {
         Html cards;

@@ -23,12 +23,13 @@ struct SiteField {
 /// A practice site: its form, its look, and how it answers.
 struct PracticeSite {
     QString name;
-    QString kind; ///< "search engine", "directory", "link list" or "semi-automated site"
+    QString kind; ///< "search engine", "directory", "link list", "semi-automated site" or "top engine"
     QString slug; ///< the folder of its pages
     QString line; ///< its motto
     QString look; ///< the piece of the site pages that frames its pages
     QByteArray path;
     bool post = true;
+    bool takesEither = false; ///< its script minds no method
     QList<SiteField> fields;
     QStringList categories; ///< empty for a site without
     QString answer;         ///< key of its usual answer

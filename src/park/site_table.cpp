@@ -1,5 +1,6 @@
 #include "park/site_table.h"
 
+#include "park/engine_rows.h"
 #include "park/form_fields.h"
 #include "park/json_resource.h"
 #include "park/query_fields.h"
@@ -73,6 +74,7 @@ PracticeSite MakeSite(const QJsonObject &row, const QJsonObject &allHabits, cons
     site.name = row["name"_L1].toString();
     site.kind = row["type"_L1].toString();
     site.post = row["method"_L1].toString() == u"post";
+    site.takesEither = site.kind == u"top engine";
     site.path = QUrl(row["action"_L1].toString()).path().toLatin1();
     site.slug = QString::fromLatin1(FolderOf(site.path));
     site.categories = CategoriesOf(row);
@@ -88,8 +90,9 @@ PracticeSite MakeSite(const QJsonObject &row, const QJsonObject &allHabits, cons
 SiteTable::SiteTable() {
     const QJsonObject habits = ReadJsonResource(u":/park/site_habits.json"_s).object();
     const QJsonObject placeholders = ReadJsonResource(u":/park/placeholders.json"_s).object();
-    for (const QString &table : {u":/park/sites.json"_s, u":/park/semi_sites.json"_s}) {
-        const QJsonArray rows = ReadJsonResource(table)["sites"_L1].toArray();
+    for (const QJsonArray &rows :
+         {ReadJsonResource(u":/park/sites.json"_s)["sites"_L1].toArray(),
+          ReadJsonResource(u":/park/semi_sites.json"_s)["sites"_L1].toArray(), EngineRows()}) {
         for (const QJsonValueConstRef &row : rows) {
             sites.push_back(MakeSite(row.toObject(), habits, placeholders));
             rowBySlug.insert(sites.back().slug.toLatin1(), sites.size() - 1);

@@ -35,6 +35,10 @@ HttpAnswer Park::Answer(const HttpRequest &request) {
         return AnswerMaker(*page, request);
     if (!OnlyReads(request))
         return Message(u"wrong-method"_s);
+    if (const PracticeSearch *search = searchPages.Find(request.path))
+        return AnswerSearch(*search, request);
+    if (request.path == "/director.asp")
+        return Direct(request);
     if (request.path == "/")
         return PageAnswer(frontPage);
     if (request.path == "/received")
@@ -142,6 +146,26 @@ HttpAnswer Park::AnswerMaker(const MakerPage &page, const HttpRequest &request) 
         return Message(page.answer);
     HttpAnswer answer = PageAnswer(QByteArray(page.text).replace("{{origin}}", origin.toLatin1()));
     answer.contentType = "text/plain; charset=utf-8";
+    return answer;
+}
+
+HttpAnswer Park::AnswerSearch(const PracticeSearch &search, const HttpRequest &request) {
+    const QList<FormField> fields = ParseFormFields(request.query);
+    received.Add(search.frame.name, u"searched"_s, request, fields);
+    return PageAnswer(searchPages.ResultPage(search, ValueOf(fields, search.field), sites, origin));
+}
+
+// Leads to the practice sites only, so that nobody is sent elsewhere from here.
+HttpAnswer Park::Direct(const HttpRequest &request) const {
+    const QString target = ValueOf(ParseFormFields(request.query), u"target"_s);
+    const PracticeSite *site =
+        target.startsWith(origin) ? sites.FindByPath(target.mid(origin.size()).toLatin1()) : nullptr;
+    if (site == nullptr)
+        return Message(u"no-such-page"_s);
+    HttpAnswer answer;
+    answer.status = 302;
+    answer.reason = "Found";
+    answer.extraHeaders = "Location: " + (origin + site->Home()).toLatin1() + "\r\n";
     return answer;
 }
 

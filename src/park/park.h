@@ -7,6 +7,7 @@
 #include "park/maker_pages.h"
 #include "park/park_pages.h"
 #include "park/received_log.h"
+#include "park/search_pages.h"
 #include "park/site_pages.h"
 #include "park/site_table.h"
 
@@ -40,6 +41,8 @@ private:
                           const QHash<QString, QString> &values);
     QString Judge(const PracticeSite &site, const QList<FormField> &fields, QString &faultyField) const;
     HttpAnswer AnswerMaker(const MakerPage &page, const HttpRequest &request);
+    HttpAnswer AnswerSearch(const PracticeSearch &search, const HttpRequest &request);
+    HttpAnswer Direct(const HttpRequest &request) const;
     HttpAnswer Count(const HttpRequest &request);
     HttpAnswer Message(const QString &answerKey) const;
 
@@ -51,6 +54,7 @@ private:
     GateTable gates;
     QList<OpenGate> openGates;
     SitePages sitePages;
+    SearchPages searchPages;
     ParkPages parkPages;
     ReceivedLog received;
     QByteArray frontPage; ///< never changes, so it is made once

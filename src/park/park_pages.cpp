@@ -19,7 +19,7 @@ QString OutcomeOf(const PracticeSite &site, const AnswerTable &answers) {
 
 /// The class of the badge that shows an outcome.
 QString MoodOf(const QString &outcome) {
-    if (outcome == u"accepted" || outcome == u"counted")
+    if (outcome == u"accepted" || outcome == u"counted" || outcome == u"searched")
         return u"good"_s;
     return outcome == u"refused" || outcome.startsWith(u'3') ? u"odd"_s : u"bad"_s;
 }

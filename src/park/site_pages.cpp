@@ -31,6 +31,17 @@ QByteArray SitePages::AnswerPage(const PracticeSite &site, const AnswerText &ans
     return Frame(site, fill(answer.title), paragraphs);
 }
 
+QByteArray SitePages::ResultPage(const PracticeSite &engine, const QString &title,
+                                 const QList<SearchHit> &hits) const {
+    Html rows;
+    for (const SearchHit &hit : hits)
+        rows += templates.Fill(u"hit"_s, {{u"name", Html::Text(hit.name)},
+                                          {u"line", Html::Text(hit.line)},
+                                          {u"address", Html::Text(hit.address)},
+                                          {u"link", Html::Text(hit.link)}});
+    return Frame(engine, title, templates.Fill(u"hits"_s, {{u"rows", rows}}));
+}
+
 Html SitePages::Row(const PracticeSite &site, const SiteField &field) const {
     if (field.word.isEmpty())
         return templates.Fill(u"hidden"_s,

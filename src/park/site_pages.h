@@ -6,6 +6,14 @@
 
 namespace lanterra {
 
+/// One line of a search's result page.
+struct SearchHit {
+    QString name;
+    QString line;
+    QString address;
+    QString link; ///< where a click leads
+};
+
 /// The pages of the practice sites, each in its site's look. All give UTF-8.
 class SitePages {
 public:
@@ -17,6 +25,10 @@ public:
     /// An answer of the site; the slots in its words take these values.
     QByteArray AnswerPage(const PracticeSite &site, const AnswerText &answer,
                           const QHash<QString, QString> &values) const;
+
+    /// What a search has found.
+    QByteArray ResultPage(const PracticeSite &engine, const QString &title,
+                          const QList<SearchHit> &hits) const;
 
 private:
     Html Row(const PracticeSite &site, const SiteField &field) const;

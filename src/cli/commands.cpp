@@ -3,10 +3,10 @@
 namespace lanterra {
 
 const QList<Command> &Commands() {
-    static const QList<Command> commands{NewCommand(),      SetCommand(),     ShowCommand(),
-                                         UrlsCommand(),     SitesCommand(),   SelectCommand(),
-                                         CategoryCommand(), PreviewCommand(), SubmitCommand(),
-                                         StatsCommand(),    SitedbCommand(),  CipherCommand()};
+    static const QList<Command> commands{
+        NewCommand(),    SetCommand(),      ShowCommand(),    UrlsCommand(),   SitesCommand(),
+        SelectCommand(), CategoryCommand(), PreviewCommand(), SubmitCommand(), StatsCommand(),
+        SearchCommand(), LinksCommand(),    SitedbCommand(),  CipherCommand()};
     return commands;
 }
 

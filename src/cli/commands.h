@@ -18,6 +18,8 @@ Command CategoryCommand();
 Command PreviewCommand();
 Command SubmitCommand();
 Command StatsCommand();
+Command SearchCommand();
+Command LinksCommand();
 Command SitedbCommand();
 Command CipherCommand();
 

@@ -5,7 +5,7 @@ using namespace Qt::StringLiterals;
 namespace lanterra {
 
 BoxAnswer ConsoleDialogs::Show(const MessageBox &box) {
-    hasShownBox = true;
+    ++boxCount;
     QString text = box.title + u": "_s + box.text;
     if (!box.detail.isEmpty())
         text = text.trimmed() + u' ' + box.detail;

@@ -21,13 +21,13 @@ public:
     std::optional<QString> OpenFile(const FileDialog &dialog) override;
     std::optional<QString> SaveFile(const FileDialog &dialog) override;
 
-    /// Whether any message box has come up.
-    bool HasShownBox() const { return hasShownBox; }
+    /// The number of message boxes that have come up.
+    int BoxCount() const { return boxCount; }
 
 private:
     Console &console;
     std::optional<BoxAnswer> givenAnswer;
-    bool hasShownBox = false;
+    int boxCount = 0;
 };
 
 } // namespace lanterra

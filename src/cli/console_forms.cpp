@@ -1,7 +1,5 @@
 #include "cli/console_forms.h"
 
-#include "submission/submission_run.h"
-
 namespace lanterra {
 
 void ConsoleForms::ShowModal(ModalForm) {}
@@ -10,7 +8,7 @@ void ConsoleForms::PopUp(PopupMenu menu) {
     if (!run)
         return;
     if (menu == PopupMenu::Submit)
-        run->mnuAuto_Click();
+        (run->*submitEntry)();
     else if (menu == PopupMenu::Cancel2)
         run->mnuCancelEntire_Click();
 }

@@ -28,7 +28,12 @@ public:
     /// has been stored. Yields.
     Outcome Save();
 
-    bool HasShownBox() const { return dialogs.HasShownBox(); }
+    /// The message boxes that have come up so far.
+    int BoxCount() const { return dialogs.BoxCount(); }
+    bool HasShownBox() const { return BoxCount() > 0; }
+
+    /// What is taken from the popup that SUBMIT opens; the automated entry unless another one is named.
+    void ChooseInPopup(ConsoleForms::Entry entry) { forms.SetSubmitEntry(entry); }
 
 private:
     Outcome NotStored(const StoreResult &result) const;

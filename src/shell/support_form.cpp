@@ -12,20 +12,20 @@ using namespace Qt::StringLiterals;
 namespace lanterra {
 
 SupportForm::SupportForm(const Parts &theParts, std::unique_ptr<HttpClient> httpClient)
-    : parts(theParts), Inet1(std::move(httpClient)) {
+    : parts(theParts), inet1(std::move(httpClient)) {
     SetVisible(false);
     for (const Field &field : Fields())
         AddToForm(*this, field.box, field.name);
     AddToForm(*this, Command1, u"Command1"_s);
     AddToForm(*this, Command2, u"Command2"_s);
     connect(&parts.proxy, &ProxySettings::ProxyGiven, this, [this](const QString &server, int port) {
-        Inet1->SetProxyPort(port);
-        Inet1->SetProxyServer(server);
+        inet1->SetProxyPort(port);
+        inet1->SetProxyServer(server);
     });
-    connect(Inet1.get(), &HttpClient::Connected, this, &SupportForm::Inet1_Connected);
-    connect(Inet1.get(), &HttpClient::Done, this, &SupportForm::Inet1_Done);
-    connect(Inet1.get(), &HttpClient::Closing, this, [this] { Command1.SetEnabled(true); });
-    connect(Inet1.get(), &HttpClient::Error, this, &SupportForm::Inet1_Error);
+    connect(inet1.get(), &HttpClient::Connected, this, &SupportForm::Inet1_Connected);
+    connect(inet1.get(), &HttpClient::Done, this, &SupportForm::Inet1_Done);
+    connect(inet1.get(), &HttpClient::Closing, this, [this] { Command1.SetEnabled(true); });
+    connect(inet1.get(), &HttpClient::Error, this, &SupportForm::Inet1_Error);
 }
 
 std::array<SupportForm::Field, 6> SupportForm::Fields() {
@@ -41,7 +41,7 @@ void SupportForm::Show() {
     Load();
     parts.forms.ShowModal(ModalForm::TechSupp);
     SetVisible(false);
-    Inet1->Abort();
+    inet1->Abort();
 }
 
 void SupportForm::Load() {
@@ -84,10 +84,10 @@ void SupportForm::Send() {
         Inet1_Error();
         return;
     }
-    Inet1->SetRequestSwitchA(true);
-    Inet1->SetTarget(endpoint);
-    Inet1->SetSaveFile(parts.programFolder + u"tmp.mth"_s);
-    Inet1->ConnectToHost();
+    inet1->SetRequestSwitchA(true);
+    inet1->SetTarget(endpoint);
+    inet1->SetSaveFile(parts.programFolder + u"tmp.mth"_s);
+    inet1->ConnectToHost();
 }
 
 // The script files messages by their subject, in which the version stands unencoded, with its blank.
@@ -101,8 +101,8 @@ QString SupportForm::SupportBody() const {
 }
 
 void SupportForm::Inet1_Connected() {
-    Inet1->SetRequestHeaders(FormPost(supportBody));
-    Inet1->SendPost();
+    inet1->SetRequestHeaders(FormPost(supportBody));
+    inet1->SendPost();
 }
 
 // The answer lies in tmp.mth, not in the file that is deleted here; the end of the program removes it.

@@ -77,7 +77,7 @@ private:
     std::array<Field, 6> Fields();
 
     Parts parts;
-    std::unique_ptr<HttpClient> Inet1;
+    std::unique_ptr<HttpClient> inet1;
     QString supportBody;
     bool supportFailed = false;
 };

@@ -1,0 +1,128 @@
+#include "support/whole_file.h"
+#include "tests/fakes/program_fixture.h"
+
+using namespace lanterra;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class SupportFormTest : public ProgramFixture {
+protected:
+    void GivenForm(const QByteArray &hosts) {
+        ASSERT_TRUE(WriteWholeFile(home.filePath(u"hosts.ini"_s), hosts));
+        GivenMaster(SiteDatabaseBuilder());
+        program->frmSettings.chkProxy.SetValue(1);
+        program->frmSettings.Text1.SetText(u"proxy.example"_s);
+        program->frmSettings.Text2.SetText(u"3128"_s);
+    }
+
+    /// What is done while the form is up.
+    void OnForm(const std::function<void(SupportForm &)> &work) {
+        forms.onForm[ModalForm::TechSupp] = [this, work] { work(program->frmTechSupp); };
+        program->modes.mnuTechnical_Click();
+    }
+
+    static void FillInForm(SupportForm &form) {
+        for (TextBox *box : {&form.Email, &form.Problem, &form.OS, &form.Computer})
+            box->SetText(u"a@"_s);
+        form.usName.SetText(u"Zo\u00eb & co"_s);
+    }
+
+    FakeHttpClient &Sender() {
+        return **std::find_if(clients.begin(), clients.end(),
+                              [](const FakeHttpClient *client) { return client->connects > 0; });
+    }
+
+    QStringList Told() {
+        QStringList told;
+        for (const MessageBox &box : std::exchange(dialogs.boxes, {}))
+            told.append(box.title + u": "_s + box.text);
+        return told;
+    }
+};
+
+TEST_F(SupportFormTest, PostsItsFieldsThroughTheProxy) {
+    GivenForm("[Maker]\nFormMail=http://maker.example/mail.cgi\nSupportMail=help@maker.example\n");
+    OnForm([this](SupportForm &form) {
+        FillInForm(form);
+        form.Command1_Click();
+        EXPECT_FALSE(form.Command1.Enabled());
+        FakeHttpClient &client = Sender();
+        EXPECT_EQ(client.Target(), u"http://maker.example/mail.cgi"_s);
+        EXPECT_EQ(client.SaveFile(), home.filePath(u"tmp.mth"_s));
+        EXPECT_EQ(client.ProxyServer(), u"proxy.example"_s);
+        EXPECT_EQ(client.ProxyPort(), 3128);
+        emit client.Connected();
+        EXPECT_EQ(client.sentMethod, u"POST"_s);
+        EXPECT_EQ(
+            client.RequestHeaders(),
+            QByteArray("Content-Type: application/x-www-form-urlencoded\r\nContent-Length: 176\r\n\r\n"
+                       "recipient=help@maker.example&subject=LT+Technical+Support+Version 2.14&redirect="
+                       "&realname=Zo\xEB+%26+co&email=a@&Problem=a@&OS=a@&Computer=a@&Other=No+comments"
+                       "&UserName=Zo\xEB+%26+co"));
+        ASSERT_TRUE(WriteWholeFile(home.filePath(u"tmp.htm"_s), "x"));
+        emit client.Done();
+        EXPECT_TRUE(form.Command1.Enabled());
+    });
+    EXPECT_EQ(Told(), QStringList(u"Zephyrine Lanterra: Thank you for your message! "_s));
+    EXPECT_FALSE(QFile::exists(home.filePath(u"tmp.htm"_s)));
+    EXPECT_EQ(Sender().aborts, 1) << "closing the form gives up what is under way";
+    OnForm([](SupportForm &form) {
+        EXPECT_EQ(form.usName.Text(), QString());
+        EXPECT_EQ(form.Other.Text(), u"No comments"_s);
+    });
+}
+
+TEST_F(SupportFormTest, TellsWhatIsMissingAndSendsNothing) {
+    GivenForm("[Maker]\nFormMail=http://maker.example/mail.cgi\n");
+    OnForm([](SupportForm &form) {
+        for (TextBox *box : {&form.usName, &form.Email, &form.Problem, &form.OS, &form.Computer}) {
+            FillInForm(form);
+            box->SetText(u" "_s);
+            form.Command1_Click();
+        }
+        FillInForm(form);
+        form.Email.SetText(u"ann"_s);
+        form.Command1_Click();
+        EXPECT_TRUE(form.Command1.Enabled());
+    });
+    QStringList expected(5, u"Error: Please fill all text fields ! "_s);
+    expected.append(u"Error: Please enter your full e-mail address! "_s);
+    EXPECT_EQ(Told(), expected);
+    for (const FakeHttpClient *client : clients)
+        EXPECT_EQ(client->connects, 0);
+}
+
+TEST_F(SupportFormTest, SendsNothingToAnEmptyAddress) {
+    GivenForm("");
+    OnForm([](SupportForm &form) {
+        FillInForm(form);
+        form.Command1_Click();
+        EXPECT_TRUE(form.Command1.Enabled());
+    });
+    EXPECT_EQ(Told(), QStringList(u"Error: Server is unreachable!  "_s));
+    EXPECT_EQ(program->frame.Pointer(), MousePointer::Default);
+}
+
+// Only a failure that is known inside the press has a box.
+TEST_F(SupportFormTest, ALaterErrorIsSilentAndTheFormCanBeSentAgain) {
+    GivenForm("[Maker]\nFormMail=http://maker.example/mail.cgi\n");
+    OnForm([this](SupportForm &form) {
+        FillInForm(form);
+        form.Command1_Click();
+        emit Sender().Error(61);
+        EXPECT_TRUE(form.Command1.Enabled());
+        form.Command1_Click();
+        EXPECT_EQ(Sender().connects, 2);
+    });
+    EXPECT_EQ(Told(), QStringList());
+}
+
+TEST_F(SupportFormTest, OpensTheSupportPage) {
+    GivenForm("");
+    program->frmTechSupp.Command2_Click();
+    ASSERT_EQ(documents.opened.size(), 1U);
+    EXPECT_EQ(documents.opened[0].arguments, QStringList(u"https://www.lanterra.example/support/"_s));
+}
+
+} // namespace

@@ -60,7 +60,8 @@ Outcome ProjectSession::Open(const QString &file) {
         return Outcome::Failed(u"%1 is no project: it holds no sites."_s.arg(file));
     program.files.OpenProject(project.path.Base);
     if (program.files.Ended())
-        return Outcome::Refused(u"%1 now holds the new sites; give the command again."_s.arg(file));
+        return Outcome::Refused(
+            u"%1 now holds the new sites, none of them selected; give the command again."_s.arg(file));
     if (const QString &notice = program.frame.Notice.Caption(); !notice.isEmpty())
         call.console.Tell(notice);
     return {};

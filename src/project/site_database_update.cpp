@@ -54,7 +54,7 @@ QString SiteDatabaseUpdate::TakeOverRows() {
     const QString base = QFileInfo(parts.project.path.Base).canonicalFilePath();
     const QByteArray before = ChangeMark(base);
     database.Data2.Close();
-    const QString failure = CopyDatabase(base, base, [&](const QString &copy) {
+    QString failure = CopyDatabase(base, base, [&](const QString &copy) {
         QString reason = FillCopy(copy);
         database.Unbind();
         if (reason.isEmpty() && ChangeMark(base) != before)

@@ -53,7 +53,7 @@ int OutcomeTable::rowCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : static_cast<int>(rows.size());
 }
 
-int OutcomeTable::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : columns; }
+int OutcomeTable::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : fieldCount; }
 
 QVariant OutcomeTable::data(const QModelIndex &index, int role) const {
     if (!index.isValid() || role != Qt::DisplayRole)

@@ -14,7 +14,8 @@ class OutcomeTable : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    enum Column { Site, Result, Answer, Size, Reason, columns };
+    enum Column { Site, Result, Answer, Size, Reason };
+    static constexpr int fieldCount = Reason + 1;
 
     /// Both must outlive this.
     OutcomeTable(const RunResult &runResult, const SiteLists &siteLists);

@@ -54,7 +54,8 @@ TEST_P(TranscriptTest, ComesOutAsWritten) {
     EXPECT_EQ(played.toStdString(), expected.toStdString());
 }
 
-INSTANTIATE_TEST_SUITE_P(Shell, TranscriptTest, testing::Values("projects", "runs", "sites", "wrong_use"),
+INSTANTIATE_TEST_SUITE_P(Shell, TranscriptTest,
+                         testing::Values("projects", "runs", "sites", "update", "wrong_use"),
                          [](const auto &each) { return std::string(each.param); });
 
 using HelpTest = CliFixture;

@@ -10,35 +10,43 @@ namespace lanterra {
 struct Injection {
     QString systemCall;
     QString fault;        ///< in strace's words, "signal=KILL" or "error=ENOSPC"
-    int nth = 1;          ///< the call that is hit, counted from the start of the operation
+    int nth = 1;          ///< the call that is hit, counted from the start of the process
     bool onwards = false; ///< all later calls, too
 
     bool Kills() const { return fault.startsWith(QStringLiteral("signal")); }
+    /// Whether the operation is tried a second time once the person was told that it failed.
+    bool AllowsSecondTry() const { return !Kills() && !onwards; }
 };
 
-/// What became of an operation that was carried out in a process of its own under an injection.
+/// What became of an operation in a process of its own.
 struct Observed {
     bool hit = false;
     bool killed = false;
-    QString trouble = {}; ///< a crash, a hang, or why strace could not attach; empty if all went as it should
-    QString told = {};    ///< to the person, by the operation
-    QString toldAgain = {}; ///< by its second try
+    bool told = false;      ///< that it failed
+    bool toldAgain = false; ///< that the second try failed, too
+    QString trouble; ///< a crash, a hang, or why nothing could be tested; empty if all went as it should
 };
 
-/// The files below a folder with their states, as a process sees them that starts now.
-QMap<QString, QString> FreshLook(const QString &folder);
+/// The folder as it was between a failure and the second try; missing without one.
+QString FolderBetween(const QString &folder);
 
-/// Carries out the operation on the folder and counts its system calls from the moment at which it starts. If
-/// a call failed once and the person was told so, `inBetween` runs and the operation is tried again.
-Observed PerformUnder(const Injection &injection, const Operation &operation, const QString &folder,
-                      const std::function<void()> &inBetween);
+/// The process that is observed: carries the operation out and gives the exit code that Observed is made of.
+int PerformHere(const Operation &operation, const QString &folder, bool tryAgain);
 
-/// Carries out the operation without a fault in a fresh process. Returns what the person was told, or that it
-/// crashed.
-QString PerformSoundly(const Operation &operation, const QString &folder);
+/// Carries the operation out on the folder, under the injection if there is one.
+Observed Perform(const Operation &operation, const QString &folder, const Injection *injection = nullptr);
 
-/// How often the operation makes each of these calls.
-QMap<QString, int> CountCalls(const QStringList &systemCalls, const Operation &operation,
-                              const QString &folder);
+/// How often a system call is made: before the operation, and by it.
+struct CallCount {
+    int before = 0;
+    int during = 0;
+};
+
+/// The counts of those of these calls that the operation makes.
+QMap<QString, CallCount> CountCalls(const QStringList &systemCalls, const Operation &operation,
+                                    const QString &folder);
+
+/// The files below a folder with their states.
+QMap<QString, QString> Look(const QString &folder);
 
 } // namespace lanterra

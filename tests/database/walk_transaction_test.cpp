@@ -71,26 +71,4 @@ TEST_F(WalkTransactionTest, ALockedFileFailsTheWholeWalkAtOnce) {
     EXPECT_EQ(StoredNames(), before);
 }
 
-TEST_F(WalkTransactionTest, AKilledSaveIsRolledBackAtTheNextOpening) {
-    const QString crashed = Path(u"crashed.rts"_s);
-    control.Close();
-    SqliteConnection dying(Path(), SqliteConnection::Mode::ReadWrite);
-    // A cache of one page makes the pages of the open transaction reach the file.
-    for (const QString &statement : {u"PRAGMA cache_size = 1"_s, u"BEGIN"_s, u"DELETE FROM Sites"_s})
-        dying.Run(statement);
-    for (int row = 0; row < 200; ++row)
-        dying.Run(u"INSERT INTO Sites (Note) VALUES (?)"_s, {QString(200, u'x')});
-    ASSERT_TRUE(BytesOf(Path()).contains("xxxx"));
-    // The first page may reach the disk before the pages that it counts.
-    WriteWholeFile(crashed, BytesOf(Path()).replace(28, 4, "\x01\x01\x01\x01"));
-    QFile::copy(Path() + u"-journal"_s, crashed + u"-journal"_s);
-    dying.Run(u"ROLLBACK"_s);
-
-    second.SetDatabaseName(crashed);
-    second.SetRecordSource(u"Sites"_s);
-    EXPECT_TRUE(second.Refresh());
-    EXPECT_EQ(Names(second), before);
-    second.Close();
-    EXPECT_EQ(FilesLeft(), QStringList({u"crashed.rts"_s, u"sites.rts"_s}));
-}
 } // namespace

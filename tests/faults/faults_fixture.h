@@ -1,10 +1,11 @@
 #pragma once
 
 #include "tests/faults/faulted_program.h"
+#include "tests/file_bytes.h"
 #include "tests/qt_printing.h"
 
-#include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -20,27 +21,19 @@ protected:
         ASSERT_EQ(faulted->Told(), QString());
     }
 
-    static QByteArray BytesOf(const QString &path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
     static void Overwrite(const QString &path, const QByteArray &bytes) {
-        QFile file(path);
+        QFile file(path); // in place, as a fault does it
         ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     }
 
-    static const Operation &Named(const QString &name) {
-        for (const Operation &operation : Operations()) {
-            if (operation.name == name)
-                return operation;
-        }
-        throw std::logic_error("no such operation");
-    }
+    QString Do(const QString &operation) { return Do(operation, *faulted); }
 
-    QString Do(const QString &operation) {
-        Named(operation).perform(*faulted);
-        return faulted->Told();
+    static QString Do(const QString &name, FaultedProgram &program) {
+        const std::vector<Operation> &all = Operations();
+        std::find_if(all.begin(), all.end(), [&name](const Operation &each) {
+            return each.name == name;
+        })->perform(program);
+        return program.Told();
     }
 
     QString Site() const { return faulted->InProjects(QStringLiteral("Site.rts")); }

@@ -83,14 +83,16 @@ protected:
 };
 
 TEST_F(ProcessDocumentOpenerTest, TellsFromTheExitCodeHowItEnded) {
-    EXPECT_EQ(Open(u"exit 0"_s), OpenResult::Opened);
-    EXPECT_EQ(Open(u"exit 3"_s), OpenResult::NoApplication);
-    EXPECT_EQ(Open(u"exit 4"_s), OpenResult::Failed);
-    EXPECT_EQ(Open(u"kill -9 $$"_s), OpenResult::Failed);
+    const std::pair<QString, OpenResult> scripts[] = {{u"exit 0"_s, OpenResult::Opened},
+                                                      {u"exit 3"_s, OpenResult::NoApplication},
+                                                      {u"exit 4"_s, OpenResult::Failed},
+                                                      {u"kill -9 $$"_s, OpenResult::Failed}};
+    for (const auto &[script, result] : scripts)
+        EXPECT_EQ(Open(script), result) << script.toStdString();
     ProcessDocumentOpener opener(queue, clock, folder.filePath(u"none"_s));
     EXPECT_EQ(opener.OpenWithDefault(u"x"_s), OpenResult::Failed);
-    EXPECT_EQ(opener.Start(Script(u"exit 3"_s), {}),
-              OpenResult::Failed); // only the desktop's 3 has that meaning
+    // Only the desktop's 3 has that meaning.
+    EXPECT_EQ(opener.Start(Script(u"exit 3"_s), {}), OpenResult::Failed);
 }
 
 TEST_F(ProcessDocumentOpenerTest, PassesArgumentsWithoutAShell) {

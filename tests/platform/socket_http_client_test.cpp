@@ -37,38 +37,11 @@ TEST_F(SocketHttpClientTest, ReachesIPv6AddressesAndProxies) {
     EXPECT_EQ(server.received, "GET http://site.example:8080/x?q HTTP/1.1\r\nHOST: z\r\n\r\n");
 }
 
-TEST_F(SocketHttpClientTest, TheEndOfAConnectionDecidesAsTheFramingTells) {
-    const QString nothing = u"Connected Error 54"_s;
-    const struct {
-        QByteArray answer;
-        Then then;
-        QString events;
-        QByteArray page;
-    } rows[] = {
-        {good, Then::Hold, done, "hello body\n"},
-        {good, Then::Reset, done, "hello body\n"},
-        {endless, Then::Close, done, "hello body\n"},
-        {endless, Then::Reset, cutOff, "hello body\n"},
-        {tooShort, Then::Close, cutOff, "hello body\n"},
-        {tooShort, Then::Reset, cutOff, "hello body\n"},
-        {"HTTP/1.1 200 OK\r\n\r\n", Then::Close, done, ""},
-        {"HTTP/1.1 204 No\r\nContent-Length: 9\r\n\r\n", Then::Hold, done, ""},
-        {"HTTP/1.1 302 Found\r\nLocation: /x\r\nContent-Length: 1\r\n\r\nr", Then::Hold, done, "r"},
-        {"", Then::Close, nothing, "old page"},
-        {"", Then::Reset, nothing, "old page"},
-        {"HTTP/1.1 200 OK\r\nContent-", Then::Close, nothing, "old page"},
-        {"220 mail ready\r\n", Then::Hold, u"Connected Error -1"_s, "old page"},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.answer.toStdString());
-        server.connections = 0;
-        EXPECT_EQ(Exchange(row.answer, row.then), row.events) << client->FailureReason().toStdString();
-        EXPECT_EQ(Page(), row.page);
-        EXPECT_EQ(server.connections, 1);
-    }
-    posts = true; // an answer that comes before the request was read counts
+TEST_F(SocketHttpClientTest, AnAnswerThatComesBeforeTheRequestWasReadCounts) {
+    posts = true;
     headers = "CONTENT-LENGTH: 9000000\r\n\r\n" + QByteArray(9000000, 'x');
     EXPECT_EQ(Exchange(good, Then::Reset), done);
+    EXPECT_EQ(server.connections, 1);
 }
 
 TEST_F(SocketHttpClientTest, DataBeginsWithTheFinalHeaderAndTextIsKeptOnRequestOnly) {
@@ -147,29 +120,19 @@ TEST_F(SocketHttpClientTest, AbortWithErrorRaisesItOnceAtALaterTurn) {
     EXPECT_EQ(Page(), "old page");
 }
 
-TEST_F(SocketHttpClientTest, NoEventComesWhileAHandlerOfItsExchangeRuns) {
-    during = [this](const QString &) {
+TEST_F(SocketHttpClientTest, NoEventComesWhileAHandlerRunsUnlessItRunsAWholeNewExchange) {
+    during = [this](const QString &event) {
         const QString before = events;
         for (int i = 0; i < 50; ++i)
             queue.Yield();
         EXPECT_EQ(events, before);
-    };
-    EXPECT_EQ(Exchange(good, Then::Close), done);
-}
-
-TEST_F(SocketHttpClientTest, AHandlerCanRunAWholeNewExchange) {
-    server.answer = good;
-    during = [this](const QString &event) {
         if (event != u"Done")
             return;
         during = nullptr;
         EXPECT_EQ(Exchange(), done);
         events += u" nested"_s;
     };
-    Begin();
-    EXPECT_TRUE(WaitFor([this] { return events.contains(u"nested"_s); }));
-    queue.Yield();
-    EXPECT_EQ(events, done + u" nested"_s);
+    EXPECT_EQ(Exchange(good, Then::Close), done + u" nested"_s);
 }
 
 TEST_F(SocketHttpClientTest, MayBeDeletedInsideEachOfItsEvents) {

@@ -1,3 +1,5 @@
+-- Stands in the header of the file, where desktops find it: "Lant" in ASCII.
+PRAGMA application_id = 1281453684;
 CREATE TABLE "Data" (
     "Name" TEXT,
     "Action" TEXT,

@@ -9,6 +9,8 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QStandardPaths>
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -18,7 +20,8 @@ namespace {
 
 constexpr auto masterName = "ng.dll"_L1;
 constexpr auto engineName = "engine.dat"_L1;
-constexpr auto templateFolder = "Report/"_L1;
+constexpr auto helpFile = "lanterra.hlp"_L1;
+constexpr std::array ownFolders{"Report/"_L1, "help/"_L1}; ///< whose files come from the program alone
 
 /// The copy keeps the source's time, so that a later look tells whether another file was installed since.
 bool CopyWithTime(const QString &source, const QString &destination) {
@@ -75,8 +78,10 @@ bool ProgramFolder::IsRenewed(const QString &name, const VersionOf &versionOf) c
     // A damaged master has version 0, so a sound one takes its place however old the file is.
     if (name == masterName)
         return versionOf(installed) > versionOf(own);
-    return (name == engineName || name.startsWith(templateFolder)) &&
-           QFileInfo(installed).lastModified() > QFileInfo(own).lastModified();
+    const bool ofProgram = name == engineName || name == helpFile ||
+                           std::any_of(ownFolders.begin(), ownFolders.end(),
+                                       [&name](QLatin1StringView folder) { return name.startsWith(folder); });
+    return ofProgram && QFileInfo(installed).lastModified() > QFileInfo(own).lastModified();
 }
 
 } // namespace lanterra

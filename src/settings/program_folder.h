@@ -31,9 +31,10 @@ public:
     /// Absolute, without a separator at its end.
     const QString &Path() const { return path; }
 
-    /// Fills the user's folder with the installed files that it lacks, and renews the master, the engine file
-    /// and the templates: the master if the share folder has one of a greater Version, the others by their
-    /// time. False if a file could not be copied; the others are. Does nothing for any other folder.
+    /// Fills the user's folder with the installed files that it lacks, and renews the master, the engine
+    /// file, the templates and the help: the master if the share folder has one of a greater Version, the
+    /// others by their time. False if a file could not be copied; the others are. Does nothing for any other
+    /// folder.
     bool Prepare(const VersionOf &versionOf) const;
 
 private:

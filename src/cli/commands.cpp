@@ -5,7 +5,7 @@ namespace lanterra {
 const QList<Command> &Commands() {
     static const QList<Command> commands{
         NewCommand(),    SetCommand(),      ShowCommand(),    UrlsCommand(),   SitesCommand(),
-        SelectCommand(), CategoryCommand(), PreviewCommand(), SubmitCommand(), StatsCommand(),
+        SelectCommand(), CategoryCommand(), PreviewCommand(), SubmitCommand(), StatsCommand(), TopCommand(),
         SearchCommand(), LinksCommand(),    SitedbCommand(),  CipherCommand()};
     return commands;
 }

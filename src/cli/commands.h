@@ -20,6 +20,7 @@ Command SubmitCommand();
 Command StatsCommand();
 Command SearchCommand();
 Command LinksCommand();
+Command TopCommand();
 Command SitedbCommand();
 Command CipherCommand();
 

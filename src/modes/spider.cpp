@@ -133,7 +133,7 @@ void Spider::CheckTimeOuts() {
         if (worker.task == noTask || clock.Elapsed() - worker.began < timeOut)
             continue;
         worker.exchange->Abort();
-        EndTask(i, u"no answer within %1 s"_s.arg(TimeOut()));
+        EndTask(i, u"No answer within %1 s"_s.arg(TimeOut()));
     }
 }
 

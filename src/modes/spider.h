@@ -61,6 +61,8 @@ public:
     // Reading the tasks by index.
     void RewindTasks() { currentTask = 0; }
     int TaskCount() const { return static_cast<int>(tasks.size()); }
+    /// How many of the tasks begun by Start have their status.
+    int EndedCount() const { return ended; }
     void SetCurrentTask(int index) { currentTask = index; }
     /// An item of the current task. Empty if it has none, or there is no such task.
     QString TaskItem(const QString &name) const { return ItemOf(currentTask, name); }

@@ -100,6 +100,8 @@ void TopEngines::SubmitUrls() {
     ProjectRecord &record = parts.project.record;
     run.urlCounter = 0;
     run.entireCancel = false;
+    parts.project.path.SplitProjectPath();
+    EngineIndexFile = ReportsFolder() + u"top_engines_report.html"_s;
     if (!record.MultiUrlMode())
         record.multiUrlTable.SetCell(0, MultiUrlTable::urlColumn, record.txtURL.Text());
     // The end of a run that goes on beside it raises the counter, too, so it can pass the last slot.
@@ -134,10 +136,13 @@ void TopEngines::PrepareReportFolder(int slot) {
     CreateReportFolders(parts.project.path, parts.result.reportFolder);
 }
 
-QString TopEngines::ReportFolder(int slot) const {
+QString TopEngines::ReportsFolder() const {
     const ProjectPath &path = parts.project.path;
-    const QStringList folders{path.ProjectFolder + path.ProjectName, u"report"_s, u"URL%1"_s.arg(slot)};
-    return folders.join(QDir::separator()) + QDir::separator();
+    return path.ProjectFolder + path.ProjectName + QDir::separator() + u"report"_s + QDir::separator();
+}
+
+QString TopEngines::ReportFolder(int slot) const {
+    return ReportsFolder() + u"URL%1"_s.arg(slot) + QDir::separator();
 }
 
 void TopEngines::RunTopEnginesForUrl() {
@@ -209,21 +214,21 @@ int TopEngines::TimeOutSeconds() const {
 }
 
 void TopEngines::ShowReports(int jobStart) {
-    ProjectRecord &record = parts.project.record;
-    QString document = parts.result.reportFile;
-    if (record.MultiUrlMode() && allUrls) {
-        QStringList reportFiles;
-        for (int slot = 0; slot <= record.MultiUrlUpper; ++slot)
-            reportFiles << ReportFolder(slot) + reportName;
-        document = QDir(ReportFolder(0)).filePath(u"../top_engines_report.html"_s);
-        document = QDir::cleanPath(document);
-        if (!parts.report.WriteEngineIndex(document, reportFiles, jobStart))
-            parts.result.notStored << u"The page of all reports could not be written: "_s + document;
-    }
+    const bool showsIndex = parts.project.record.MultiUrlMode() && allUrls;
+    if (showsIndex)
+        WriteIndex(jobStart);
     if (!parts.queue.Closing())
-        parts.viewer.OpenDocument(document);
-    if (record.MultiUrlMode())
-        parts.urlSlots.Show(0);
+        parts.viewer.OpenDocument(showsIndex ? EngineIndexFile : parts.result.reportFile);
+    if (parts.project.record.MultiUrlMode())
+        parts.urlSlots.Show(0); // the scroll bar too, or the address would go into the slot on show
+}
+
+void TopEngines::WriteIndex(int jobStart) {
+    QStringList reportFiles;
+    for (int slot = 0; slot <= parts.project.record.MultiUrlUpper; ++slot)
+        reportFiles << ReportFolder(slot) + reportName;
+    if (!parts.report.WriteEngineIndex(EngineIndexFile, reportFiles, jobStart))
+        parts.result.notStored << u"The page of all reports could not be written: "_s + EngineIndexFile;
 }
 
 } // namespace lanterra

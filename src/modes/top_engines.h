@@ -41,6 +41,11 @@ public:
     /// Yields.
     void SubmitTopEngines();
 
+    QString EngineIndexFile; ///< path of the page that links the reports of a job over several URLs
+
+    /// Whether the job that was last begun is one over all URLs of the project.
+    bool AllUrls() const { return allUrls; }
+
 signals:
     /// The report of a URL has been written; the tasks of its spider can still be read.
     void UrlEnded(int slot);
@@ -54,6 +59,7 @@ private:
     void SubmitUrls();
     void SubmitUrl(int slot);
     void PrepareReportFolder(int slot);
+    QString ReportsFolder() const;
     QString ReportFolder(int slot) const;
     void RunTopEnginesForUrl();
     void ExpandRequests();
@@ -61,6 +67,7 @@ private:
     void CutFragment();
     int TimeOutSeconds() const;
     void ShowReports(int jobStart);
+    void WriteIndex(int jobStart);
 
     Parts parts;
     UrlFieldsCheck check;

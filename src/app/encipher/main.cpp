@@ -24,13 +24,17 @@ QByteArrayList ReadLines(const QString &path) {
     return lines;
 }
 
+/// Empty if a line has no name, or one with blanks.
 QByteArray EncipheredValues(const QByteArrayList &lines) {
     Sifrant cipher;
     QByteArray result;
     for (const QByteArray &line : lines) {
-        const qsizetype nameEnd = line.indexOf('=') + 1;
-        if (!line.startsWith('#') && nameEnd > 0)
-            result += line.left(nameEnd) + cipher.Sifriraj(line.mid(nameEnd)) + '\n';
+        if (line.isEmpty() || line.startsWith('#'))
+            continue;
+        const QByteArray name = line.left(line.indexOf('='));
+        if (name.isEmpty() || name.contains(' ') || name == line)
+            return {};
+        result += name + '=' + cipher.Sifriraj(line.mid(name.size() + 1)) + '\n';
     }
     return result;
 }
@@ -54,7 +58,7 @@ int main(int argc, char **argv) {
     const QByteArrayList lines = ReadLines(QFile::decodeName(arguments[arguments.size() - 2]));
     const QByteArray bytes = values ? EncipheredValues(lines) : EncipheredLines(lines, arguments[1]);
     QFile output(QFile::decodeName(arguments.last()));
-    const bool written = !lines.isEmpty() && output.open(QIODevice::WriteOnly) &&
+    const bool written = !bytes.isEmpty() && output.open(QIODevice::WriteOnly) &&
                          output.write(bytes) == bytes.size() && output.flush();
     if (!written)
         std::fprintf(stderr, "lanterra_encipher: %s was not made\n", arguments.last().constData());

@@ -22,4 +22,8 @@ private:
     int value = 0;
 };
 
+/// Makes the two options of one choice: from now on exactly one is checked, the first to begin with. Both must
+/// live equally long.
+void JoinAsOptions(CheckBox &first, CheckBox &second);
+
 } // namespace lanterra

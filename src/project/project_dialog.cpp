@@ -23,28 +23,22 @@ ProjectDialog::ProjectDialog(ProjectPath &projectPath, ProjectFiles &projectFile
     AddToForm(*this, Option2, u"Option2"_s);
     AddToForm(*this, List1, u"List1"_s);
     AddToForm(*this, LoadLastProject, u"LoadLastProject"_s);
-    connect(&Option1, &CheckBox::ValueChanged, this, [this](int value) { Option2.SetValue(1 - value); });
-    connect(&Option2, &CheckBox::ValueChanged, this, [this](int value) { Option1.SetValue(1 - value); });
+    JoinAsOptions(Option1, Option2);
 }
 
 void ProjectDialog::Load() {
     recent.Load();
     List1.SetItems({u"More Files..."_s});
-    ChooseOption(false);
+    Option1.SetValue(1);
     for (int n = 1; n <= RecentFile::limit; ++n) {
         const QString file = recent.File(n);
         if (file.isEmpty())
             continue;
         List1.AddItem(file.size() > longestShown ? ShortenPath(file, shortenedTo, QDir::separator()) : file);
-        ChooseOption(true);
+        Option2.SetValue(1);
     }
     LoadLastProject.SetValue(settingsBox.Value());
     SetVisible(true);
-}
-
-void ProjectDialog::ChooseOption(bool existing) {
-    Option2.SetValue(existing ? 1 : 0);
-    Option1.SetValue(existing ? 0 : 1);
 }
 
 void ProjectDialog::cmdOK_Click() {

@@ -37,7 +37,6 @@ signals:
 
 private:
     void SetVisible(bool show);
-    void ChooseOption(bool existing);
     void OpenMoreFiles();
 
     ProjectPath &path;

@@ -17,6 +17,7 @@ WebBrowserForm::WebBrowserForm(Options &storedOptions, Dialogs &fileDialogs, QSt
     SetVisible(false);
     AddToForm(*this, Option1, u"Option1"_s);
     AddToForm(*this, Option2, u"Option2"_s);
+    JoinAsOptions(Option1, Option2);
     AddToForm(*this, BrowserPath, u"BrowserPath"_s);
     AddToForm(*this, SSCommand1, u"SSCommand1"_s);
     AddToForm(*this, SSCommand2, u"SSCommand2"_s);
@@ -31,7 +32,6 @@ void WebBrowserForm::Show() {
 }
 
 void WebBrowserForm::Choose(bool ownBrowser) {
-    Option1.SetValue(ownBrowser ? 0 : 1);
     Option2.SetValue(ownBrowser ? 1 : 0);
     BrowserPath.SetEnabled(ownBrowser);
     SSCommand3.SetEnabled(ownBrowser);

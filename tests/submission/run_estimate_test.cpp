@@ -39,9 +39,6 @@ TEST_F(RunEstimateTest, ANoticeTellsWhatTheRunCouldNotStore) {
     QDir().mkpath(home.filePath(u"Projects/Project1/report.htm"_s)); // a folder stands in its place
     SubmitAnswered("200 OK");
     EXPECT_EQ(program->frame.Notice.Caption(), u"The report could not be written: "_s + Result().reportFile);
-    QDir().rmdir(Result().reportFile);
-    SubmitAnswered("200 OK");
-    EXPECT_EQ(program->frame.Notice.Caption(), QString());
 }
 
 } // namespace

@@ -5,8 +5,9 @@ namespace lanterra {
 const QList<Command> &Commands() {
     static const QList<Command> commands{
         NewCommand(),    SetCommand(),      ShowCommand(),    UrlsCommand(),   SitesCommand(),
-        SelectCommand(), CategoryCommand(), PreviewCommand(), SubmitCommand(), StatsCommand(), TopCommand(),
-        SearchCommand(), LinksCommand(),    SitedbCommand(),  CipherCommand()};
+        SelectCommand(), CategoryCommand(), PreviewCommand(), SubmitCommand(), StatsCommand(),
+        SearchCommand(), LinksCommand(),    TopCommand(),     SemiCommand(),   Top9Command(),
+        SitedbCommand(), CipherCommand()};
     return commands;
 }
 

@@ -21,6 +21,8 @@ Command StatsCommand();
 Command SearchCommand();
 Command LinksCommand();
 Command TopCommand();
+Command SemiCommand();
+Command Top9Command();
 Command SitedbCommand();
 Command CipherCommand();
 

@@ -44,6 +44,8 @@ ProjectSession::ProjectSession(const CommandCall &commandCall)
     forms.SetRun(program.run);
     program.recentFile.Load();
     program.frmSettings.Load();
+    // A command looks for no newer version: its box would be one more answer of the command.
+    program.frmSettings.check_for_program_upgrade.SetValue(0);
     program.frmWebBrowser.Load();
 }
 

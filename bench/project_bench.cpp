@@ -1,5 +1,5 @@
 // Times what a person waits for in the project's file: collecting the requests of a run, saving and loading,
-// beside the cost of one flush of the same disk.
+// and the page of ready-filled forms, beside the cost of one flush of the same disk.
 
 #include "tests/fakes/fake_clipboard.h"
 #include "tests/fakes/fake_clock.h"
@@ -75,6 +75,12 @@ void Load(benchmark::State &state) {
         open.program->files.LoadProject();
 }
 
+void WriteSemiPage(benchmark::State &state) {
+    const OpenProject open(1);
+    for (auto _ : state)
+        open.program->semiPage.WriteSemiPage();
+}
+
 void DiskFlush(benchmark::State &state) {
     QTemporaryDir folder(u"./bench-XXXXXX"_s);
     QFile file(folder.filePath(u"flush"_s));
@@ -91,6 +97,7 @@ BENCHMARK(DiskFlush)->Unit(benchmark::kMillisecond);
 BENCHMARK(Collect)->Arg(500)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(Save)->Arg(500)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(Load)->Arg(500)->Arg(5000)->Unit(benchmark::kMillisecond);
+BENCHMARK(WriteSemiPage)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

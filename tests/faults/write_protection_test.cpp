@@ -43,31 +43,24 @@ protected:
              {u"ng.dll"_s, u"Projects/Site.rts"_s, u"Projects/Other.rts"_s, u"config/Lanterra.ini"_s})
             set(folder.filePath(name), files);
     }
+};
 
-    // With a program that starts under the protection, as an ordinary user.
-    void EveryOperationIsRefused() {
+TEST_F(WriteProtectionTest, WhatCanOnlyBeReadOrHasNoRoomForAJournalIsOpenedAndNeverChanged) {
+    for (const mode_t filesMode : {0444U, 0666U}) {
+        Protect(0555, filesMode);
         const OrdinaryUser user;
         for (const Operation &operation : Operations()) {
             if (operation.mainFile.isEmpty())
                 continue;
-            faulted = std::make_unique<FaultedProgram>(folder.path());
+            SCOPED_TRACE(operation.name.toStdString());
+            faulted = std::make_unique<FaultedProgram>(folder.path()); // starts under the protection
             operation.prepare(*faulted);
             EXPECT_EQ(faulted->Told(), QString()) << "what may be read can be opened";
             const QString before = StateOf(faulted->Path(operation.mainFile));
-            EXPECT_NE(Do(operation.name), QString()) << operation.name.toStdString();
-            EXPECT_EQ(StateOf(faulted->Path(operation.mainFile)), before) << operation.name.toStdString();
+            EXPECT_NE(Do(operation.name), QString());
+            EXPECT_EQ(StateOf(faulted->Path(operation.mainFile)), before);
         }
     }
-};
-
-TEST_F(WriteProtectionTest, AFolderAndFilesThatCanOnlyBeReadAreOpenedAndNeverChanged) {
-    Protect(0555, 0444);
-    EveryOperationIsRefused();
-}
-
-TEST_F(WriteProtectionTest, AFolderWithoutRoomForAJournalStopsTheWriteBeforeItBegins) {
-    Protect(0555, 0666);
-    EveryOperationIsRefused();
 }
 
 TEST_F(WriteProtectionTest, AWriteProtectedProjectTellsWhy) {

@@ -99,12 +99,14 @@ protected:
     Park park{u"http://127.0.0.1:1"_s};
 };
 
-// All eight sites of the list in its order, selected or not, then those that are only kept ready.
+// All eight sites of the list in its order, selected or not, then those that are only kept ready. A quote in
+// the title breaks the forms.
 TEST_F(SemiPageTest, IsTheGoldenPageByteForByte) {
     ListBox &sites = program->project.lists.List5;
     sites.SetItems(sites.Items() + QStringList{u"YAHOO"_s, u"What-U-Seek"_s, u"nobody"_s});
     sites.SetAllSelected(false);
-    program->collector.txtEmailText = u"stale%40a"_s;
+    program->project.record.txtTitle.SetText(u"The \"best\" \u00e9"_s);
+    program->collector.txtEmailText = u"stale@a"_s;
     program->collector.AllKeywords = u"k1%2C+k2"_s;
     const QByteArray page = Written();
     QFile golden(QStringLiteral(GOLDEN_FOLDER "/semi.htm"));
@@ -173,11 +175,6 @@ TEST_F(SemiPageTest, TwoValuesAreThoseOfTheLastRunWhateverTheFieldsSayNow) {
     const QByteArray page = Written();
     EXPECT_TRUE(page.contains("name=\"email\" value=ann%2B1@a.example>\r\n"));
     EXPECT_TRUE(page.contains("name=\"keywords\" value=\"x%2C+x%2C+x%2C+x%2C+x%2C+x\">\r\n"));
-}
-
-TEST_F(SemiPageTest, AQuoteInATitleEndsTheValueSinceNothingIsEscaped) {
-    program->project.record.txtTitle.SetText(u"The \"best\""_s);
-    EXPECT_TRUE(Written().contains("name=\"title\" value=\"The \"best\"\">\r\n"));
 }
 
 TEST_F(SemiPageTest, IsNotWrittenWhileAFieldIsEmpty) {

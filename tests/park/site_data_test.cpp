@@ -1,10 +1,9 @@
 #include "park/park.h"
-#include "project/project_record.h"
 #include "project/site_source_check.h"
 #include "submission/request_template.h"
 #include "support/code_page.h"
-#include "support/text_file.h"
 #include "support/url_encode.h"
+#include "tests/example_project.h"
 #include "tests/qt_printing.h"
 
 #include <QUrl>
@@ -18,14 +17,7 @@ namespace {
 /// The sites of the database's source, each submitted to the practice web with the example project.
 class SiteDataTest : public testing::Test {
 protected:
-    SiteDataTest() {
-        for (const QString &line : ReadFileText(data + u"example_project.txt"_s).split(u'\n')) {
-            for (const ProjectRecord::TextField &field : record.TextFields()) {
-                if (line.section(u'=', 0, 0) == field.name)
-                    field.box->SetText(line.section(u'=', 1));
-            }
-        }
-    }
+    SiteDataTest() { FillInExample(record, data + u"example_project.txt"_s); }
 
     /// What the program sends to the site.
     QStringList PairsOf(const SiteEntry &site) const {

@@ -2,7 +2,7 @@
 
 #include "platform/socket_http_client.h"
 #include "project/site_source_build.h"
-#include "support/text_file.h"
+#include "tests/example_project.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -37,7 +37,7 @@ bool SoakedProgram::Start() {
     if (!program->startProject.CreateProject(u"Soak"_s))
         return false;
     program->files.LoadProject();
-    FillIn();
+    FillInExample(program->project.record, QStringLiteral(LANTERRA_DATA_DIR "/example_project.txt"));
     program->project.lists.List1.SetAllSelected(true);
     return program->categorySelection.SelectByKeyword(QString());
 }
@@ -52,16 +52,6 @@ bool SoakedProgram::BuildMaster() const {
     for (SiteEntry &site : source.sites)
         site.action = server.Origin() + QUrl(site.action).path();
     return BuildSiteDatabase(source, home.filePath(u"ng.dll"_s));
-}
-
-void SoakedProgram::FillIn() {
-    for (const QString &line :
-         ReadFileText(QStringLiteral(LANTERRA_DATA_DIR "/example_project.txt")).split(u'\n')) {
-        for (const ProjectRecord::TextField &field : program->project.record.TextFields()) {
-            if (line.section(u'=', 0, 0) == field.name)
-                field.box->SetText(line.section(u'=', 1));
-        }
-    }
 }
 
 QString SoakedProgram::Run() {

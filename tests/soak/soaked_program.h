@@ -28,7 +28,6 @@ public:
 
 private:
     bool BuildMaster() const;
-    void FillIn();
 
     QTemporaryDir home;
     AccessLog log{QString()};

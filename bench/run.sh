@@ -43,13 +43,26 @@ make_project() {
 
 submit() { printf '%s\n' "$cli" --home "$work/$1" submit "$work/$1/p.rts" --json; }
 
-# The median of "milliseconds" of several runs: first dispatch to last verdict.
+# median_ms COMMAND...: the median of the "milliseconds" that several runs of a command print.
+median_ms() {
+    for ((i = 0; i < runs; i++)); do
+        "$@" | grep -oE '"milliseconds": *[0-9]+' | grep -oE '[0-9]+'
+    done | sort -n | sed -n "$(((runs + 1) / 2))p"
+}
+
+# First dispatch to last verdict of a project.
 dispatch_ms() {
     local command
     mapfile -t command < <(submit "$1")
-    for ((i = 0; i < runs; i++)); do
-        "${command[@]}" | grep -oE '"milliseconds": *[0-9]+' | grep -oE '[0-9]+'
-    done | sort -n | sed -n "$(((runs + 1) / 2))p"
+    median_ms "${command[@]}"
+}
+
+# make_engines NAME COUNT ADDRESS: the engine file of a project's folder.
+make_engines() {
+    for ((i = 1; i <= $2; i++)); do
+        printf 'Search engine\r\nName=Engine %d\r\nSearch=%s\r\nReferer=%s\r\n' "$i" "$3" "$3"
+        printf 'Submit=%s?url=[url]&mail=[email]&who=[name]\r\n\r\n' "$3"
+    done | "$cli" cipher encipher --key plavac >"$work/$1/engine.dat"
 }
 
 # curl_config NAME FILE: the requests of a project, as `preview --curl` tells them, as one configuration for curl's
@@ -105,6 +118,12 @@ make_project slow 500 45 "${slow}behave/plain"
 slow_ms=$(dispatch_ms slow)
 row "500 sites at 200 ms latency, over the ideal 20 s" "$(ratio "$slow_ms" 20000)" "1.02"
 
+# 13 engines at 300 ms: the spider's five can't be faster than three rounds.
+start_park late --latency 300
+make_project engines 1 45 "$quick_form"
+make_engines engines 13 "${late}behave/plain"
+engines_ms=$(median_ms "$cli" --home "$work/engines" top "$work/engines/p.rts" --json)
+row "13 top engines at 300 ms latency, over the ideal 0.9 s" "$(ratio "$engines_ms" 900)" "1.1"
 # Five sites that never answer: the processor time of waiting ten seconds more.
 make_project wait1 5 1 "$silent_form"
 make_project wait11 5 11 "$silent_form"
@@ -125,6 +144,14 @@ row "start of lanterra-cli --version" "$version_wall ms" ""
 row "start of the smallest Qt program" "$smallest_wall ms" ""
 row "ratio of both" "$(ratio "$version_wall" "$smallest_wall")" "2"
 
+# One line a figure: the text cipher beside a plain XOR loop over the same generator.
+cipher_speed() {
+    "$build/bin/bench_cipher" --benchmark_filter="$1" --benchmark_format=csv 2>/dev/null |
+        awk -F, 'END { print $6 / 1048576 }'
+}
+plain_speed=$(cipher_speed PlainXor)
+row "enciphering, over the speed of a plain XOR loop" "$(ratio "$(cipher_speed Encipher)" "$plain_speed")" "0.5"
+row "deciphering, over that speed" "$(ratio "$(cipher_speed Decipher)" "$plain_speed")" "0.5"
 echo
 (cd "$build" && bin/bench_project --benchmark_repetitions="$runs" --benchmark_report_aggregates_only=true 2>/dev/null |
     grep -E 'median|Benchmark')

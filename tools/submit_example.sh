@@ -23,3 +23,4 @@ mapfile -t fields < <(grep -vE '^[[:space:]]*(#|$)' "$home/example_project.txt")
 "${cli[@]}" category "$project" --keyword shop
 "${cli[@]}" select "$project" --all
 "${cli[@]}" submit "$project"
+"${cli[@]}" top "$project" --timeout 5

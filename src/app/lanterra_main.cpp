@@ -46,7 +46,6 @@ int RunWindow(int argc, char **argv, const QCommandLineParser &parser) {
     Interrupt interrupt; // before a thread of the windows could take the signals
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"lanterra"_s);
-    QApplication::setApplicationDisplayName(u"Zephyrine Lanterra"_s);
     QApplication::setDesktopFileName(u"lanterra"_s);
     QApplication::setWindowIcon(QIcon(u":/icons/lanterra.svg"_s));
     QApplication::setQuitOnLastWindowClosed(false); // the end has an order of its own

@@ -19,6 +19,8 @@ SubmitForm::SubmitForm() {
     AddToForm(*this, Label29, u"Label29"_s);
     AddToForm(*this, Label30, u"Label30"_s);
     AddToForm(*this, Label31, u"Label31"_s);
+    for (Label *counter : {&Label28, &Label29, &Label30, &Label31})
+        counter->SetCaption(u"0"_s);
 }
 
 } // namespace lanterra

@@ -1,10 +1,21 @@
 #include "window/form_dialog.h"
 
+#include <QLayout>
+#include <algorithm>
+
 namespace lanterra {
 
 void FormDialog::ExecWhileVisible() {
-    if (modelVisible)
-        exec();
+    if (!modelVisible)
+        return;
+    FitHeight();
+    exec();
+}
+
+// A dialog takes the height of its texts on one line each unless it is told what wrapping them needs.
+void FormDialog::FitHeight() {
+    if (layout() && layout()->hasHeightForWidth())
+        resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
 }
 
 } // namespace lanterra

@@ -33,6 +33,8 @@ protected:
     }
 
 private:
+    void FitHeight();
+
     std::function<void()> closedByUser;
     bool modelVisible = false;
 };

@@ -21,7 +21,8 @@ constexpr QByteArrayView strokeColour = "#5c6670"; ///< of the files, where the 
 
 class ThemedIconEngine final : public QIconEngine {
 public:
-    explicit ThemedIconEngine(const QString &iconName) : name(iconName) {}
+    ThemedIconEngine(const QString &iconName, QPalette::ColorRole colourRole)
+        : name(iconName), role(colourRole) {}
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override {
         QSvgRenderer renderer(Drawing(Colour(mode)));
@@ -51,9 +52,8 @@ public:
 private:
     static constexpr qreal disabledOpacity = 0.4;
 
-    static QColor Colour(QIcon::Mode mode) {
-        const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
-        return QGuiApplication::palette().color(role);
+    QColor Colour(QIcon::Mode mode) const {
+        return QGuiApplication::palette().color(mode == QIcon::Selected ? QPalette::HighlightedText : role);
     }
 
     QByteArray Drawing(const QColor &colour) const {
@@ -64,16 +64,20 @@ private:
     }
 
     QString name;
+    QPalette::ColorRole role;
 };
 
 } // namespace
 
-QIcon ThemedIcon(const QString &name) { return QIcon(new ThemedIconEngine(name)); }
+QIcon ThemedIcon(const QString &name, QPalette::ColorRole role) {
+    return QIcon(new ThemedIconEngine(name, role));
+}
 
 void ApplyIcons(QWidget &form) {
     for (auto *button : form.findChildren<QAbstractButton *>()) {
+        const bool primary = button->property("primary").toBool();
         if (const QString name = button->property(iconNameProperty).toString(); !name.isEmpty())
-            button->setIcon(ThemedIcon(name));
+            button->setIcon(ThemedIcon(name, primary ? QPalette::HighlightedText : QPalette::WindowText));
     }
     for (auto *action : form.findChildren<QAction *>()) {
         if (const QString name = action->property(iconNameProperty).toString(); !name.isEmpty())

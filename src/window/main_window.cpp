@@ -16,6 +16,7 @@
 #include "window/widget_forms.h"
 
 #include <QCloseEvent>
+#include <QScrollArea>
 #include <QStyle>
 
 namespace lanterra {
@@ -46,8 +47,14 @@ void MainWindow::AddPanes(WidgetForms &forms) {
 }
 
 void MainWindow::AddPane(Pane pane, QWidget *widget, QPushButton *button) {
-    ui->panes->addWidget(widget);
-    panes[pane] = {widget, button};
+    // A small screen scrolls what it can't show.
+    auto *const scroll = new QScrollArea;
+    scroll->setWidget(widget);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    ui->panes->addWidget(scroll);
+    panes[pane] = {scroll, button};
 }
 
 void MainWindow::JoinPaneButtons() {

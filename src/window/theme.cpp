@@ -24,19 +24,20 @@ constexpr int portalPatience = 300; ///< ms; a portal that doesn't answer must n
 
 /// The colours of one scheme, by what they are used for.
 struct Colours {
-    QColor window, base, raised, text, fadedText, line, accent, onAccent, link;
+    QColor window, base, raised, text, fadedText, line, accent, onAccent, link, alert;
 };
 
 const Colours lightColours{"#f4f6f6", "#ffffff", "#ffffff", "#1f2a2e", "#66747a",
-                           "#d3dadb", "#2f7d6d", "#ffffff", "#1c6a8f"};
+                           "#d3dadb", "#2f7d6d", "#ffffff", "#1c6a8f", "#c00000"};
 const Colours darkColours{"#1f2526", "#171c1d", "#2a3233", "#e4eaea", "#93a2a4",
-                          "#3c4749", "#3f9a87", "#ffffff", "#7cc0dd"};
+                          "#3c4749", "#3f9a87", "#ffffff", "#7cc0dd", "#ff7b6b"};
 
 QPalette PaletteOf(const Colours &colours) {
     QPalette palette(colours.text, colours.raised, colours.base, colours.line, colours.line, colours.text,
-                     colours.onAccent, colours.base, colours.window);
+                     colours.alert, colours.base, colours.window);
     palette.setColor(QPalette::AlternateBase, colours.window);
     palette.setColor(QPalette::Midlight, colours.line);
+    palette.setColor(QPalette::Shadow, colours.fadedText); // the style sheet knows no placeholder colour
     palette.setColor(QPalette::Highlight, colours.accent);
     palette.setColor(QPalette::HighlightedText, colours.onAccent);
     palette.setColor(QPalette::PlaceholderText, colours.fadedText);

@@ -1,0 +1,16 @@
+# A Debian package of the programs: cpack -G DEB in the build folder. The libraries that the programs need are found by
+# their links; the SQL driver is loaded at run time.
+set(CPACK_PACKAGE_NAME lanterra)
+set(CPACK_PACKAGE_VENDOR "Zephyrine Lanterra")
+set(CPACK_PACKAGE_CONTACT "Zephyrine Lanterra <support@lanterra.example>")
+set(CPACK_PACKAGE_HOMEPAGE_URL "https://www.lanterra.example/")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "submits web pages to search engines, directories and link lists")
+set(CPACK_DEBIAN_PACKAGE_SECTION web)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt6sql6-sqlite)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, openssl")
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_GENERATOR DEB)
+include(CPack)

@@ -54,9 +54,17 @@ TEST_F(ProjectFilesTest, CleaningNeverLeadsToAnotherProjectsFile) {
 }
 
 TEST_F(ProjectFilesTest, ANewProjectStartsEmptyButForWhatCarriesOver) {
+    Record().txtTitle.SetText(u"Stored"_s);
+    Files().SaveProject(QString());
+    Record().txtTitle.SetText(u"Typed since"_s);
+    dialogs.files = {std::nullopt, InProjects(u"Fresh.rts"_s)};
+    Files().mnuFileNew_Click(); // cancelled, so the stored one comes back
+    EXPECT_EQ(Path().Base, InProjects(u"Project1.rts"_s));
+    EXPECT_EQ(Record().txtTitle.Text(), u"Stored"_s);
+    EXPECT_EQ(program->project.lists.List1.SelCount(), 2);
+
     Record().Check1.SetValue(1);
     Record().SetMultiUrlMode(true);
-    dialogs.files = {InProjects(u"Fresh.rts"_s)};
     Files().mnuFileNew_Click();
     const QMap<QString, QString> kept{{u"txtURL"_s, u"http://"_s},
                                       {u"txtLimit"_s, u"45"_s},
@@ -68,17 +76,6 @@ TEST_F(ProjectFilesTest, ANewProjectStartsEmptyButForWhatCarriesOver) {
     EXPECT_FALSE(Record().MultiUrlMode());
     EXPECT_EQ(program->project.lists.List1.SelCount(), 0);
     EXPECT_TRUE(QFile::exists(InProjects(u"Fresh.rts"_s)));
-}
-
-TEST_F(ProjectFilesTest, ACancelledNewProjectBringsTheStoredOneBack) {
-    Record().txtTitle.SetText(u"Stored"_s);
-    Files().SaveProject(QString());
-    Record().txtTitle.SetText(u"Typed since"_s);
-    dialogs.files = {std::nullopt};
-    Files().mnuFileNew_Click();
-    EXPECT_EQ(Path().Base, InProjects(u"Project1.rts"_s));
-    EXPECT_EQ(Record().txtTitle.Text(), u"Stored"_s);
-    EXPECT_EQ(program->project.lists.List1.SelCount(), 2);
 }
 
 TEST_F(ProjectFilesTest, OpenAndRecentFiles) {

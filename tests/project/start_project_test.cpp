@@ -38,7 +38,7 @@ TEST_F(StartProjectTest, AsksForANameUntilOneIsGiven) {
     EXPECT_EQ(program->project.lists.List1.ListCount(), 1);
 }
 
-TEST_F(StartProjectTest, DoesNotReplaceAProjectWithoutAsking) {
+TEST_F(StartProjectTest, DoesNotReplaceAProjectWithoutAskingAndTakesAnExistingFile) {
     GivenOpenProject(u"Shop"_s);
     program->project.record.txtTitle.SetText(u"Kept"_s);
     program->files.SaveProject(QString());
@@ -47,16 +47,11 @@ TEST_F(StartProjectTest, DoesNotReplaceAProjectWithoutAsking) {
     dialogs.answers = {BoxAnswer::No};
     Start().ChooseStartProject(QString());
     EXPECT_EQ(Path().Base, InProjects(u"Other.rts"_s));
-    program->files.OpenProject(InProjects(u"Shop.rts"_s));
-    EXPECT_EQ(program->project.record.txtTitle.Text(), u"Kept"_s);
-}
-
-TEST_F(StartProjectTest, TakesAnExistingFileOfTheCommandLine) {
-    GivenOpenProject(u"Shop"_s);
     Path().Base.clear();
     Start().ChooseStartProject(InProjects(u"Shop.rts"_s));
-    EXPECT_EQ(Path().ProjectName, u"Shop"_s);
-    EXPECT_TRUE(forms.shown.empty());
+    EXPECT_EQ(forms.shown.size(), 1U) << "a file of the command line is not asked for";
+    program->files.LoadProject();
+    EXPECT_EQ(program->project.record.txtTitle.Text(), u"Kept"_s);
 }
 
 TEST_F(StartProjectTest, TheDialogOffersCreateFirstAndOpenLater) {

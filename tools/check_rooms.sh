@@ -19,7 +19,7 @@ for folder in src/*/; do
     done < <(grep -rnE '^#include "[a-z_]+/' "$folder" || true)
     while IFS=: read -r file line _; do
         complain "$file:$line: a header of this project is named without its room"
-    done < <(grep -rnE '^#include "[^/"]+"' "$folder" --include='*.h' --include='*.cpp' | grep -v '\.moc"' || true)
+    done < <(grep -rnE '^#include "[^/"]+"' "$folder" --include='*.h' --include='*.cpp' | grep -vE '\.moc"|"ui_[a-z_]+\.h"' || true)
 done
 
 while IFS=: read -r file line _; do

@@ -47,7 +47,9 @@ int RunWindow(int argc, char **argv, const QCommandLineParser &parser) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"lanterra"_s);
     QApplication::setDesktopFileName(u"lanterra"_s);
-    QApplication::setWindowIcon(QIcon(u":/icons/lanterra.svg"_s));
+    QIcon icon(u":/icons/lanterra.svg"_s);
+    icon.addFile(u":/icons/lanterra-small.svg"_s, QSize(16, 16)); // without the details that blur there
+    QApplication::setWindowIcon(icon);
     QApplication::setQuitOnLastWindowClosed(false); // the end has an order of its own
     interrupt.Watch();
     const Theme theme(application, SchemeOf(parser.value(u"colours"_s)));

@@ -14,11 +14,13 @@ WindowProgram::WindowProgram(const QString &programFolder)
       window(program, forms), splash(program.frmSplash), statusDialog(program.frmStatus, &window),
       settingsDialog(program.frmSettings, &window), webBrowserDialog(program.frmWebBrowser, &window),
       projectDialog(program.frmProjectDialog, &window), welcomeDialog(program.frmWelcome, &window),
-      reportDialog(program.frmReport, &window), multiDialog(program.frmMulti, &window) {
+      reportDialog(program.frmReport, &window), multiDialog(program.frmMulti, &window),
+      supportDialog(program.frmTechSupp, &window), topEnginesDialog(program.frmTop9, &window) {
     Show(ModalForm::Settings, settingsDialog);
     Show(ModalForm::WebBrowser, webBrowserDialog);
     Show(ModalForm::Welcome, welcomeDialog);
     Show(ModalForm::Report, reportDialog);
+    Show(ModalForm::TechSupp, supportDialog);
     forms.SetForm(ModalForm::ProjectDialog, [this] {
         program.frmProjectDialog.Load();
         projectDialog.ExecWhileVisible();

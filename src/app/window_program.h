@@ -15,6 +15,8 @@
 #include "window/settings_dialog.h"
 #include "window/splash_window.h"
 #include "window/status_dialog.h"
+#include "window/support_dialog.h"
+#include "window/top_engines_dialog.h"
 #include "window/web_browser_dialog.h"
 #include "window/welcome_dialog.h"
 #include "window/widget_dialogs.h"
@@ -67,6 +69,8 @@ private:
     WelcomeDialog welcomeDialog;
     ReportDialog reportDialog;
     MultiDialog multiDialog;
+    SupportDialog supportDialog;
+    TopEnginesDialog topEnginesDialog;
 };
 
 } // namespace lanterra

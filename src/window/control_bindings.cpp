@@ -6,6 +6,7 @@
 #include "controls/label.h"
 #include "controls/list_box.h"
 #include "controls/scroll_bar.h"
+#include "controls/status_bar.h"
 #include "window/icons.h"
 
 #include <QAbstractButton>
@@ -251,7 +252,8 @@ bool JoinScroll(QObject &control, QObject &face) {
 }
 
 bool JoinPlain(QObject &control, QObject &face) {
-    if (control.metaObject() != &Control::staticMetaObject)
+    // A row of panels is drawn by its own form.
+    if (control.metaObject() != &Control::staticMetaObject && !qobject_cast<StatusBar *>(&control))
         return false;
     auto *const plain = static_cast<Control *>(&control);
     if (auto *const widget = qobject_cast<QWidget *>(&face))

@@ -17,7 +17,9 @@ namespace lanterra {
 namespace {
 
 constexpr auto iconNameProperty = "iconName";
-constexpr QByteArrayView strokeColour = "#5c6670"; ///< of the files, where the text colour takes its place
+// Colours of the files.
+constexpr QByteArrayView strokeColour = "#5c6670"; ///< where the text colour takes its place
+constexpr QByteArrayView accentColour = "#2f7d6d"; ///< where that of the palette does
 
 class ThemedIconEngine final : public QIconEngine {
 public:
@@ -60,7 +62,13 @@ private:
         QFile file(u":/icons/"_s + name + u".svg"_s);
         if (!file.open(QIODevice::ReadOnly))
             return {};
-        return file.readAll().replace(strokeColour, colour.name().toLatin1());
+        // On the accent colour itself nothing may be drawn in it.
+        const QPalette palette = QGuiApplication::palette();
+        const QColor accent = role == QPalette::HighlightedText ? colour : palette.color(QPalette::Highlight);
+        QByteArray drawing = file.readAll();
+        drawing.replace(strokeColour, colour.name().toLatin1());
+        drawing.replace(accentColour, accent.name().toLatin1());
+        return drawing;
     }
 
     QString name;

@@ -1,0 +1,39 @@
+#include "window/top_engines_dialog.h"
+
+#include "ui_top_engines_dialog.h"
+#include "window/form_binder.h"
+
+#include <QVBoxLayout>
+
+namespace lanterra {
+
+TopEnginesDialog::TopEnginesDialog(TopEnginesForm &topEnginesForm, QWidget *parent)
+    : QDialog(parent), form(topEnginesForm), ui(std::make_unique<Ui::TopEnginesDialog>()) {
+    ui->setupUi(this);
+    AddPanels();
+    FormBinder(*this).Bind(form);
+    connect(&form, &TopEnginesForm::VisibleChanged, this, &QDialog::setVisible);
+    connect(ui->cmdSubmit, &QPushButton::clicked, this, [this] { form.cmdSubmit_Click(); });
+    connect(ui->cmdStop, &QPushButton::clicked, this, [this] { form.cmdStop_Click(); });
+    connect(ui->SSCommand1, &QPushButton::clicked, this, [this] { form.SSCommand1_Click(); });
+}
+
+TopEnginesDialog::~TopEnginesDialog() = default;
+
+// One line a panel of the form's status bar.
+void TopEnginesDialog::AddPanels() {
+    auto *const lines = new QVBoxLayout(ui->StatusBar1);
+    lines->setContentsMargins({});
+    QList<QLabel *> labels;
+    for (int panel = 0; panel < form.StatusBar1.PanelCount(); ++panel) {
+        auto *const label = new QLabel(form.StatusBar1.PanelText(panel));
+        label->setTextFormat(Qt::PlainText);
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        lines->addWidget(label);
+        labels << label;
+    }
+    connect(&form.StatusBar1, &StatusBar::PanelTextChanged, ui->StatusBar1,
+            [labels](int panel, const QString &text) { labels.at(panel)->setText(text); });
+}
+
+} // namespace lanterra

@@ -124,6 +124,7 @@ make_project engines 1 45 "$quick_form"
 make_engines engines 13 "${late}behave/plain"
 engines_ms=$(median_ms "$cli" --home "$work/engines" top "$work/engines/p.rts" --json)
 row "13 top engines at 300 ms latency, over the ideal 0.9 s" "$(ratio "$engines_ms" 900)" "1.1"
+
 # Five sites that never answer: the processor time of waiting ten seconds more.
 make_project wait1 5 1 "$silent_form"
 make_project wait11 5 11 "$silent_form"
@@ -152,6 +153,7 @@ cipher_speed() {
 plain_speed=$(cipher_speed PlainXor)
 row "enciphering, over the speed of a plain XOR loop" "$(ratio "$(cipher_speed Encipher)" "$plain_speed")" "0.5"
 row "deciphering, over that speed" "$(ratio "$(cipher_speed Decipher)" "$plain_speed")" "0.5"
+
 echo
 (cd "$build" && bin/bench_project --benchmark_repetitions="$runs" --benchmark_report_aggregates_only=true 2>/dev/null |
     grep -E 'median|Benchmark')

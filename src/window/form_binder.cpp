@@ -34,7 +34,7 @@ void FormBinder::Bind(const QObject &model) const {
         if (!Join(*control, *face))
             qFatal("The widget %s of %s does not fit its control.", qUtf8Printable(face->objectName()),
                    qUtf8Printable(form.objectName()));
-        face->setProperty(boundProperty, true);
+        face->setProperty(boundProperty, QVariant::fromValue(control));
     }
 }
 

@@ -9,9 +9,8 @@ namespace lanterra {
 /// does is the form's own wiring.
 class FormBinder {
 public:
-    /// Sets by this name, on each joined widget and action, the dynamic property that tells that it has a
-    /// control.
-    static constexpr auto boundProperty = "hasControl";
+    /// The dynamic property of each joined widget and action that holds its control, a QObject *.
+    static constexpr auto boundProperty = "control";
 
     explicit FormBinder(QWidget &formWidget) : form(formWidget) {}
 

@@ -41,7 +41,7 @@ void MainWindow::AddPanes(WidgetForms &forms) {
     AddPane(Pane::FrameOtherData, new OtherDataPane(program), ui->cmdDesc);
     AddPane(Pane::FrameEngineList, new SitesPane(program, forms), ui->cmdEngines);
     AddPane(Pane::fraCat, new CategoryPane(program), ui->Command14);
-    AddPane(Pane::FrameSUBMIT, new SubmitPane(program), ui->cmdSubmit);
+    AddPane(Pane::FrameSUBMIT, new SubmitPane(program, forms), ui->cmdSubmit);
     AddPane(Pane::FraSta, new StatisticsPane(program), ui->cmdOrder);
     AddPane(Pane::fraSearch, new SearchPane(program), ui->Command5);
 }

@@ -11,12 +11,14 @@ class SitesPane;
 
 namespace lanterra {
 
+class WidgetForms;
+
 /// The pane FrameEngineList: which sites get the page.
 class SitesPane : public QWidget {
     Q_OBJECT
 
 public:
-    SitesPane(Program &program, Forms &forms);
+    SitesPane(Program &program, WidgetForms &forms);
     ~SitesPane() override;
     Q_DISABLE_COPY_MOVE(SitesPane)
 

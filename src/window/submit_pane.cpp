@@ -5,6 +5,7 @@
 #include "window/entry_events.h"
 #include "window/form_binder.h"
 #include "window/icons.h"
+#include "window/widget_forms.h"
 
 #include <QHeaderView>
 
@@ -18,15 +19,17 @@ constexpr int answerWidth = 150;
 
 } // namespace
 
-SubmitPane::SubmitPane(Program &program) : ui(std::make_unique<Ui::SubmitPane>()) {
+SubmitPane::SubmitPane(Program &program, WidgetForms &forms) : ui(std::make_unique<Ui::SubmitPane>()) {
     ui->setupUi(this);
     ApplyIcons(*this);
     FormBinder(*this).Bind(program.submitForm);
     FormBinder(*this).Bind(program.project.record);
     new EntryEvents(program.project.record, program.entry, *this);
     JoinOutcomes(program.outcomes);
-    JoinChannels(program.run);
+    JoinChannels(program.run, forms);
     JoinButtons(program);
+    forms.SetMenuButton(PopupMenu::Submit, *ui->cmdStart);
+    forms.SetMenuButton(PopupMenu::Cancel2, *ui->cmdCancel);
 }
 
 SubmitPane::~SubmitPane() = default;
@@ -44,11 +47,19 @@ void SubmitPane::JoinOutcomes(OutcomeTable &outcomes) {
                      "each of them answered."));
 }
 
-void SubmitPane::JoinChannels(SubmissionRun &run) {
-    const std::array buttons{ui->kan1, ui->kan2, ui->kan3, ui->kan4, ui->kan5};
-    for (std::size_t i = 0; i < buttons.size(); ++i)
-        connect(buttons[i], &QPushButton::clicked, this,
-                [&run, number = static_cast<int>(i) + 1] { run.kan_Click(number); });
+void SubmitPane::JoinChannels(SubmissionRun &run, WidgetForms &forms) {
+    const std::array<std::pair<QPushButton *, PopupMenu>, channelCount> channels{
+        {{ui->kan1, PopupMenu::Status},
+         {ui->kan2, PopupMenu::Status2},
+         {ui->kan3, PopupMenu::Status3},
+         {ui->kan4, PopupMenu::Status4},
+         {ui->kan5, PopupMenu::Status5}}};
+    int number = 1;
+    for (const auto &[button, menu] : channels) {
+        forms.SetMenuButton(menu, *button);
+        connect(button, &QPushButton::clicked, this, [&run, number] { run.kan_Click(number); });
+        ++number;
+    }
 }
 
 void SubmitPane::JoinButtons(Program &program) {

@@ -11,18 +11,20 @@ class SubmitPane;
 
 namespace lanterra {
 
+class WidgetForms;
+
 /// The pane FrameSUBMIT: the run with its channels and counters, and how each site fared.
 class SubmitPane : public QWidget {
     Q_OBJECT
 
 public:
-    explicit SubmitPane(Program &program);
+    SubmitPane(Program &program, WidgetForms &forms);
     ~SubmitPane() override;
     Q_DISABLE_COPY_MOVE(SubmitPane)
 
 private:
     void JoinOutcomes(OutcomeTable &outcomes);
-    void JoinChannels(SubmissionRun &run);
+    void JoinChannels(SubmissionRun &run, WidgetForms &forms);
     void JoinButtons(Program &program);
 
     std::unique_ptr<Ui::SubmitPane> ui;

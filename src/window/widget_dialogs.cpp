@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMessageBox>
 
 using namespace Qt::StringLiterals;
@@ -65,10 +66,23 @@ std::optional<QString> Chosen(QFileDialog &chooser, const FileDialog &dialog) {
     return chooser.selectedFiles().value(0);
 }
 
+// A form that blocks the others comes first. Otherwise the main window is what a box blocks, not a form that
+// stands beside it.
+QWidget *ParentOfBox() {
+    if (QWidget *const modal = QApplication::activeModalWidget())
+        return modal;
+    for (QWidget *const top : QApplication::topLevelWidgets()) {
+        if (qobject_cast<QMainWindow *>(top) && top->isVisible())
+            return top;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 BoxAnswer WidgetDialogs::Show(const MessageBox &box) {
-    QMessageBox message(QApplication::activeWindow());
+    QMessageBox message(ParentOfBox());
+    message.setWindowModality(Qt::WindowModal);
     message.setWindowTitle(box.title);
     message.setIcon(IconOf(box.icon));
     message.setTextFormat(Qt::PlainText);
@@ -91,7 +105,7 @@ BoxAnswer WidgetDialogs::Show(const MessageBox &box) {
 }
 
 QString WidgetDialogs::Ask(const InputBox &box) {
-    QInputDialog input(QApplication::activeWindow());
+    QInputDialog input(ParentOfBox());
     input.setWindowTitle(box.title);
     input.setLabelText(ForScreen(box.prompt));
     input.setTextValue(box.defaultText);
@@ -104,14 +118,14 @@ QString WidgetDialogs::Ask(const InputBox &box) {
 }
 
 std::optional<QString> WidgetDialogs::OpenFile(const FileDialog &dialog) {
-    QFileDialog chooser(QApplication::activeWindow(), QObject::tr("Open"));
+    QFileDialog chooser(ParentOfBox(), QObject::tr("Open"));
     chooser.setFileMode(QFileDialog::AnyFile); // a name that is not there yet is an answer, too
     chooser.setAcceptMode(QFileDialog::AcceptOpen);
     return Chosen(chooser, dialog);
 }
 
 std::optional<QString> WidgetDialogs::SaveFile(const FileDialog &dialog) {
-    QFileDialog chooser(QApplication::activeWindow(), QObject::tr("Save As"));
+    QFileDialog chooser(ParentOfBox(), QObject::tr("Save As"));
     chooser.setFileMode(QFileDialog::AnyFile);
     chooser.setAcceptMode(QFileDialog::AcceptSave);
     return Chosen(chooser, dialog);

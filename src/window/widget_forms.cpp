@@ -1,16 +1,13 @@
 #include "window/widget_forms.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QCursor>
 
 namespace lanterra {
 
 namespace {
 
-QPoint PopUpPlace() {
+QPoint PopUpPlace(const QWidget *button) {
     const QPoint pointer = QCursor::pos();
-    const auto *const button = qobject_cast<QAbstractButton *>(QApplication::focusWidget());
     if (!button || button->rect().contains(button->mapFromGlobal(pointer)))
         return pointer;
     return button->mapToGlobal(button->rect().bottomLeft());
@@ -25,7 +22,7 @@ void WidgetForms::ShowModal(ModalForm form) {
 
 void WidgetForms::PopUp(PopupMenu menu) {
     if (const auto found = menus.find(menu); found != menus.end())
-        found->second->exec(PopUpPlace());
+        found->second->exec(PopUpPlace(buttons[menu]));
 }
 
 } // namespace lanterra

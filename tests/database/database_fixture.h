@@ -29,7 +29,7 @@ protected:
 
     /// Leaves a page of a file without sense, behind its header.
     static QByteArray Damage(const QString &path, qsizetype place) {
-        const QByteArray damaged = BytesOf(path).replace(place, 4096, QByteArray(4096, '\x55'));
+        QByteArray damaged = BytesOf(path).replace(place, 4096, QByteArray(4096, '\x55'));
         WriteWholeFile(path, damaged);
         return damaged;
     }

@@ -17,7 +17,10 @@ namespace {
 constexpr auto marker = "getppid"_L1;
 constexpr int longestRun = 30'000; // milliseconds
 
-enum Ending { nothingTold = 0, failureTold = 10, secondFailureTold = 11 };
+// Exit codes of the process that is observed.
+constexpr int nothingTold = 0;
+constexpr int failureTold = 10;
+constexpr int secondFailureTold = 11;
 
 QStringList TraceArguments(const QStringList &calls, const Injection *injection, const QString &log) {
     QStringList arguments{u"-q"_s, u"-o"_s, log, u"-e"_s, u"trace=%1,%2"_s.arg(calls.join(u','), marker)};

@@ -10,39 +10,42 @@ using namespace Qt::StringLiterals;
 namespace lanterra {
 
 UrlJobOutput::UrlJobOutput(const CommandCall &commandCall, ProjectSession &projectSession)
-    : call(commandCall), session(projectSession), program(session.program) {
+    : call(commandCall), session(projectSession), program(session.program),
+      asJson(call.options.isSet(u"json"_s)) {
     connect(&program.multiUrlJob, &MultiUrlJob::UrlStarted, this, &UrlJobOutput::Begin);
     connect(&program.multiUrlJob, &MultiUrlJob::UrlEnded, this, &UrlJobOutput::End);
 }
 
-void UrlJobOutput::Begin() {
+void UrlJobOutput::Begin(int slot) {
     boxesBefore = session.BoxCount();
+    if (!asJson)
+        call.console.Print(u"==> %1 <=="_s.arg(Url(slot)));
     progress =
         std::make_unique<RunProgress>(program.submitForm, program.result, program.runEstimate, call.console);
 }
 
 void UrlJobOutput::End(int slot) {
     progress.reset();
-    const QString url = program.project.record.multiUrlTable.Cell(slot, MultiUrlTable::urlColumn);
-    const bool asJson = call.options.isSet(u"json"_s);
-    if (!asJson)
-        call.console.Print(u"==> %1 <=="_s.arg(url));
     if (session.BoxCount() > boxesBefore) {
-        Refuse(url);
+        Refuse(slot);
         return;
     }
     troubles << program.result.notStored;
     QJsonObject outcome = RunSummaryJson(program).object();
-    outcome.insert(u"url"_s, url);
+    outcome.insert(u"url"_s, Url(slot));
     urls.append(outcome);
     if (!asJson)
         PrintRun(call, program);
 }
 
-void UrlJobOutput::Refuse(const QString &url) {
+QString UrlJobOutput::Url(int slot) const {
+    return program.project.record.multiUrlTable.Cell(slot, MultiUrlTable::urlColumn);
+}
+
+void UrlJobOutput::Refuse(int slot) {
     refused = true;
     const QString reason = ChecksRefusal(program.project.record).sentence;
-    urls.append(QJsonObject{{u"url"_s, url}, {u"refused"_s, reason}});
+    urls.append(QJsonObject{{u"url"_s, Url(slot)}, {u"refused"_s, reason}});
     call.console.Tell(reason);
 }
 
@@ -50,7 +53,7 @@ Outcome UrlJobOutput::Finish() {
     if (urls.isEmpty() && session.HasShownBox())
         return RefusalOfJob();
     const QString index = program.result.reportFile;
-    if (call.options.isSet(u"json"_s))
+    if (asJson)
         call.console.PrintJson(QJsonDocument(QJsonObject{{u"urls"_s, urls}, {u"report"_s, index}}));
     else
         call.console.Print(u"All reports: "_s + index);

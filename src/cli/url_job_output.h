@@ -21,14 +21,16 @@ public:
     Outcome Finish();
 
 private:
-    void Begin();
+    void Begin(int slot);
     void End(int slot);
-    void Refuse(const QString &url);
+    void Refuse(int slot);
+    QString Url(int slot) const;
     Outcome RefusalOfJob() const;
 
     const CommandCall &call;
     ProjectSession &session;
     Program &program;
+    const bool asJson;
     std::unique_ptr<RunProgress> progress; ///< of the run under way
     int boxesBefore = 0;                   ///< shown when the run began
     QJsonArray urls;                       ///< an object for each URL so far

@@ -55,7 +55,8 @@ TEST_P(TranscriptTest, ComesOutAsWritten) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Shell, TranscriptTest,
-                         testing::Values("pages", "projects", "runs", "searches", "several_urls", "sites", "top", "update", "wrong_use"),
+                         testing::Values("pages", "projects", "runs", "searches", "several_urls", "sites",
+                                         "top", "update", "wrong_use"),
                          [](const auto &each) { return std::string(each.param); });
 
 using HelpTest = CliFixture;

@@ -60,6 +60,11 @@ TEST_F(WebSearchTest, AsksEachEngineAtItsOwnAddressAndKeepsItsAnswer) {
         EXPECT_EQ(Inet20().sentMethod + State(), u"GETDone!"_s);
         EXPECT_EQ(ReadFileText(PathOf(engine + u"-Search-Results.htm"_s)), u"<html>"_s + engine + u"\r\n"_s);
     }
+    program->project.record.txtKey[1].SetText(u"brass"_s);
+    Form().Command15_Click();
+    EXPECT_EQ(Form().txtKeywords.Text(), u" brass    "_s);
+    Search(u"hotbot"_s);
+    EXPECT_EQ(Inet20().connects, 6) << "that is no engine's name";
     EXPECT_TRUE(documents.opened.empty());
 }
 
@@ -101,21 +106,6 @@ TEST_F(WebSearchTest, CancelAndErrorFreeThePaneAtEveryStage) {
         Form().Command17_Click();
         EXPECT_EQ(State(), u"Error"_s) << "nothing was left to cancel";
     }
-}
-
-TEST_F(WebSearchTest, WithoutAHostOrAnEngineNothingIsSent) {
-    Search(u"hotbot"_s);
-    EXPECT_EQ(State(), u""_s);
-    program->project.record.txtKey[1].SetText(u"brass"_s);
-    Form().Command15_Click();
-    EXPECT_EQ(Form().txtKeywords.Text(), u" brass    "_s);
-    Search(u"Yahoo"_s);
-    EXPECT_EQ(State(), u"Error"_s);
-    EXPECT_FALSE(Form().SearchBusy());
-    Form().Command24_Click();
-    EXPECT_TRUE(documents.opened.empty());
-    for (const FakeHttpClient *client : clients)
-        EXPECT_EQ(client->connects, 0);
 }
 
 TEST_F(WebSearchTest, TheListFollowsItsFolderOpensAnswersAndIsCleared) {

@@ -5,16 +5,20 @@
 #include "window/form_binder.h"
 #include "window/icons.h"
 
+#include <QEvent>
+
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
 DescriptionPane::DescriptionPane(Program &program)
-    : record(program.project.record), ui(std::make_unique<Ui::DescriptionPane>()) {
+    : record(program.project.record), urlSlots(program.urlSlots),
+      ui(std::make_unique<Ui::DescriptionPane>()) {
     ui->setupUi(this);
     FormBinder(*this).Bind(program.project.record);
     ApplyIcons(*this);
     new EntryEvents(program.project.record, program.entry, *this);
+    ui->HScroll1->installEventFilter(this);
     connect(ui->SSCommand7, &QPushButton::clicked, this, [&program] { program.run.SSCommand7_Click(); });
 
     connect(&record.txtDesc, &TextBox::TextChanged, this, &DescriptionPane::ShowDescriptionLength);
@@ -26,6 +30,12 @@ DescriptionPane::DescriptionPane(Program &program)
 }
 
 DescriptionPane::~DescriptionPane() = default;
+
+bool DescriptionPane::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::FocusOut)
+        urlSlots.HScroll1_LostFocus();
+    return QWidget::eventFilter(watched, event);
+}
 
 void DescriptionPane::ShowDescriptionLength(const QString &text) {
     ui->lblDescLength->setText(tr("%1 of %2 characters").arg(text.size()).arg(ProjectRecord::fieldSize));

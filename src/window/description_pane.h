@@ -20,11 +20,14 @@ public:
     ~DescriptionPane() override;
     Q_DISABLE_COPY_MOVE(DescriptionPane)
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void ShowDescriptionLength(const QString &text);
     void ShowUrlNumber();
 
     const ProjectRecord &record;
+    UrlSlots &urlSlots;
     std::unique_ptr<Ui::DescriptionPane> ui;
 };
 

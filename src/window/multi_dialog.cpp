@@ -14,6 +14,8 @@ MultiDialog::MultiDialog(MultiForm &multiForm, QWidget *parent)
     FormBinder(*this).Bind(form);
     Follow(form);
     ui->ListedURLs->installEventFilter(this);
+    connect(ui->ListedURLs->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex &current) { form.ListedURLs.SetListIndex(current.row()); });
     // A line that was typed to its end leads to the next one.
     connect(
         &form.ListedURLs, &QAbstractItemModel::rowsInserted, this,

@@ -31,7 +31,7 @@ RunStatus::RunStatus(Program &program, QStatusBar &bar)
     progress.setAccessibleName(tr("Progress of the run"));
     progress.setMaximumWidth(progressWidth);
     progress.setRange(0, progressParts);
-    progress.setFormat(QStringLiteral("%p %"));
+    progress.setTextVisible(false); // the label beside it says it
     bar.addPermanentWidget(&timeLeft);
     bar.addPermanentWidget(&progress);
     connect(&estimate, &RunEstimate::Changed, this, &RunStatus::Show);

@@ -8,6 +8,7 @@
 #include "window/widget_forms.h"
 
 #include <QHeaderView>
+#include <QSortFilterProxyModel>
 
 namespace lanterra {
 
@@ -35,7 +36,13 @@ SubmitPane::SubmitPane(Program &program, WidgetForms &forms) : ui(std::make_uniq
 SubmitPane::~SubmitPane() = default;
 
 void SubmitPane::JoinOutcomes(OutcomeTable &outcomes) {
-    ui->outcomes->setModel(&outcomes);
+    // A click on a heading brings the failed sites, say, together; until then they stand as in the list.
+    auto *const sorted = new QSortFilterProxyModel(this);
+    sorted->setSourceModel(&outcomes);
+    ui->outcomes->setModel(sorted);
+    ui->outcomes->sortByColumn(-1, Qt::AscendingOrder);
+    ui->outcomes->setSortingEnabled(true);
+    ui->outcomes->setWordWrap(false);
     ui->outcomes->verticalHeader()->hide();
     QHeaderView &header = *ui->outcomes->horizontalHeader();
     header.setHighlightSections(false);

@@ -28,7 +28,7 @@ void TopEnginesDialog::AddPanels() {
     for (int panel = 0; panel < form.StatusBar1.PanelCount(); ++panel) {
         auto *const label = new QLabel(form.StatusBar1.PanelText(panel));
         label->setTextFormat(Qt::PlainText);
-        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        label->setWordWrap(true); // the address in front can be long, and how it went stands at the end
         lines->addWidget(label);
         labels << label;
     }

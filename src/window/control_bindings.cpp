@@ -98,6 +98,7 @@ QString PictureName(ButtonPicture picture) {
 // The style sheet tells a marked button by this property.
 void ShowMark(QAbstractButton &widget, bool marked) {
     widget.setProperty("marked", marked);
+    ApplyIcon(widget);
     widget.style()->unpolish(&widget);
     widget.style()->polish(&widget);
 }

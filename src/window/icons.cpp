@@ -81,12 +81,15 @@ QIcon ThemedIcon(const QString &name, QPalette::ColorRole role) {
     return QIcon(new ThemedIconEngine(name, role));
 }
 
+void ApplyIcon(QAbstractButton &button) {
+    const bool onAccent = button.property("primary").toBool() || button.property("marked").toBool();
+    if (const QString name = button.property(iconNameProperty).toString(); !name.isEmpty())
+        button.setIcon(ThemedIcon(name, onAccent ? QPalette::HighlightedText : QPalette::WindowText));
+}
+
 void ApplyIcons(QWidget &form) {
-    for (auto *button : form.findChildren<QAbstractButton *>()) {
-        const bool primary = button->property("primary").toBool();
-        if (const QString name = button->property(iconNameProperty).toString(); !name.isEmpty())
-            button->setIcon(ThemedIcon(name, primary ? QPalette::HighlightedText : QPalette::WindowText));
-    }
+    for (auto *button : form.findChildren<QAbstractButton *>())
+        ApplyIcon(*button);
     for (auto *action : form.findChildren<QAction *>()) {
         if (const QString name = action->property(iconNameProperty).toString(); !name.isEmpty())
             action->setIcon(ThemedIcon(name));

@@ -30,9 +30,7 @@ MultiDialog::~MultiDialog() = default;
 void MultiDialog::EditLine(int row) {
     if (!ui->ListedURLs->hasFocus())
         return;
-    const QModelIndex line = form.ListedURLs.index(row);
-    ui->ListedURLs->setCurrentIndex(line);
-    ui->ListedURLs->edit(line);
+    ui->ListedURLs->setCurrentIndex(form.ListedURLs.index(row)); // which opens its editor
 }
 
 bool MultiDialog::eventFilter(QObject *watched, QEvent *event) {

@@ -19,6 +19,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <algorithm>
 
 namespace lanterra {
 
@@ -55,7 +56,7 @@ void JoinLine(TextBox &box, QLineEdit &edit) {
             edit.setText(text);
     });
     QObject::connect(&box, &TextBox::SelectionChanged, &edit, [&edit](qsizetype start, qsizetype length) {
-        edit.setSelection(static_cast<int>(start), static_cast<int>(length));
+        edit.setSelection(static_cast<int>(std::min(start, edit.text().size())), static_cast<int>(length));
     });
 }
 
@@ -67,12 +68,17 @@ void SelectIn(QPlainTextEdit &edit, qsizetype start, qsizetype length) {
     edit.setTextCursor(cursor);
 }
 
+// Texts of several lines go to the sites with CR LF, as those of a form in a browser do.
+QString TypedLines(const QPlainTextEdit &edit) {
+    return edit.toPlainText().replace(u'\n', QLatin1String("\r\n"));
+}
+
 void JoinLines(TextBox &box, QPlainTextEdit &edit) {
     edit.setPlainText(box.Text());
     QObject::connect(&edit, &QPlainTextEdit::textChanged, &box,
-                     [&box, &edit] { box.SetText(edit.toPlainText()); });
+                     [&box, &edit] { box.SetText(TypedLines(edit)); });
     QObject::connect(&box, &TextBox::TextChanged, &edit, [&edit](const QString &text) {
-        if (edit.toPlainText() == text)
+        if (TypedLines(edit) == text)
             return;
         const QSignalBlocker quiet(edit);
         edit.setPlainText(text);
@@ -229,11 +235,13 @@ bool JoinList(QObject &control, QObject &face) {
     };
     showCurrent(list->ListIndex());
     QObject::connect(list, &ListBox::ListIndexChanged, view, showCurrent);
-    // What the program has made current comes back as what is current already.
-    QObject::connect(view->selectionModel(), &QItemSelectionModel::currentChanged, list,
-                     [list](const QModelIndex &current) {
-                         if (current.row() != list->ListIndex())
-                             list->Click(current.row());
+    // Not by what is current: the focus alone makes the first entry that, without selecting it. And what the
+    // program has made current comes back as what is current already.
+    QObject::connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, list,
+                     [list](const QItemSelection &selected) {
+                         const QModelIndexList entries = selected.indexes();
+                         if (!entries.isEmpty() && entries.first().row() != list->ListIndex())
+                             list->Click(entries.first().row());
                      });
     return true;
 }

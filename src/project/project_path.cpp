@@ -29,6 +29,14 @@ QString ProjectPath::ProjectsFolder() const { return WithSeparator(appPath + u"P
 
 void ProjectPath::CreateProjectsFolder() const { QDir().mkpath(ProjectsFolder()); }
 
+QString ProjectPath::OwnFolder() const { return WithSeparator(ProjectFolder + ProjectName); }
+
+QString ProjectPath::ReportFolder() const { return WithSeparator(OwnFolder() + u"report"_s); }
+
+QString ProjectPath::ReportFolder(int slot) const {
+    return WithSeparator(ReportFolder() + u"URL%1"_s.arg(slot));
+}
+
 QString ProjectPath::MasterFile() const { return appPath + u"ng.dll"_s; }
 
 void ProjectPath::SplitProjectPath() {

@@ -16,6 +16,11 @@ public:
     /// Creates that folder; one that exists is fine.
     void CreateProjectsFolder() const;
 
+    // Below the folder and name that SplitProjectPath has derived, each with a separator at the end.
+    QString OwnFolder() const;
+    QString ReportFolder() const;         ///< of a run
+    QString ReportFolder(int slot) const; ///< of one URL of several
+
     /// Path of the master database.
     QString MasterFile() const;
 

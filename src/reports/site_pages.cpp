@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace lanterra {
 
 void CreateReportFolders(const ProjectPath &path, const QString &reportFolder) {
-    QDir().mkpath(path.ProjectFolder + path.ProjectName);
+    QDir().mkpath(path.OwnFolder());
     QDir().mkpath(reportFolder);
 }
 

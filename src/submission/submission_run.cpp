@@ -5,7 +5,6 @@
 #include "submission/required_fields.h"
 #include "support/numbers.h"
 
-#include <QDir>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -46,9 +45,8 @@ void SubmissionRun::cmdStart_Click() {
 void SubmissionRun::DeriveReportPaths() {
     ProjectPath &path = parts.project.path;
     path.SplitProjectPath();
-    const QString folder = path.ProjectFolder + path.ProjectName + QDir::separator();
-    parts.result.reportFolder = folder + u"report"_s + QDir::separator();
-    parts.result.reportFile = folder + u"report.htm"_s;
+    parts.result.reportFolder = path.ReportFolder();
+    parts.result.reportFile = path.OwnFolder() + u"report.htm"_s;
 }
 
 bool SubmissionRun::ModeIsAutomated() {

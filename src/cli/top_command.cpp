@@ -72,11 +72,11 @@ Outcome RunTop(const CommandCall &call) {
     if (!output.HasReports() && !interrupt.WasPressed())
         return Refusal(program.project.record);
     output.Print();
-    for (const QString &trouble : program.result.notStored)
+    for (const QString &trouble : program.topEngines.NotStored())
         call.console.Tell(trouble);
     if (interrupt.WasPressed())
         return {ExitCode::Cancelled};
-    return {program.result.notStored.isEmpty() ? ExitCode::Done : ExitCode::Failed};
+    return {program.topEngines.NotStored().isEmpty() ? ExitCode::Done : ExitCode::Failed};
 }
 
 Outcome RunTopIfNumeric(const CommandCall &call) {

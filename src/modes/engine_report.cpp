@@ -42,7 +42,6 @@ bool EngineReport::WriteEngineReport(const QString &reportFile, int urlStart) {
     return written;
 }
 
-// A task that was cut off has no result and no file.
 void EngineReport::CollectEngineResults() {
     Spider &spider = parts.form.Spider1;
     spider.RewindTasks();

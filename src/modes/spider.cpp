@@ -54,10 +54,14 @@ void Spider::Start(const QString &folder) {
 }
 
 void Spider::Stop() {
-    running = false;
+    const bool cutsOff = std::exchange(running, false);
     for (Worker &worker : workers) {
         worker.exchange->Abort();
         worker.task = noTask;
+    }
+    for (int task = 0; cutsOff && task < TaskCount(); ++task) {
+        if (ItemOf(task, u"status"_s).isEmpty())
+            LeaveReason(task, u"The submission was canceled"_s);
     }
 }
 
@@ -89,13 +93,19 @@ void Spider::EndTask(int worker, const QString &problem) {
     BeginNext(worker);
 }
 
-// A page that tells the reason takes the place of an answer that broke off, so that the link to it says why.
 void Spider::NoteEnd(int task, const QString &problem) {
     Task &items = tasks[static_cast<std::size_t>(task)];
     items[u"status"_s] = problem.isEmpty() ? u"Success"_s : problem;
-    items[u"FileName"_s] = AnswerFile(task);
-    if (!problem.isEmpty())
-        WriteFileText(AnswerFile(task), NoAnswerPage(items[u"Task"_s], problem));
+    if (problem.isEmpty())
+        items[u"FileName"_s] = AnswerFile(task);
+    else
+        LeaveReason(task, problem);
+}
+
+// A page takes the place of an answer that is missing or broke off, so that the link to it says why.
+void Spider::LeaveReason(int task, const QString &reason) {
+    tasks[static_cast<std::size_t>(task)][u"FileName"_s] = AnswerFile(task);
+    WriteFileText(AnswerFile(task), NoAnswerPage(ItemOf(task, u"Task"_s), reason));
 }
 
 QString Spider::AnswerFile(int task) const {

@@ -48,7 +48,7 @@ public:
     /// separator.
     void Start(const QString &folder);
 
-    /// Ends the work silently. Unfinished tasks get no status.
+    /// Ends the work silently. Unfinished tasks get no status, only a page that tells it.
     void Stop();
 
     /// True from Start until all tasks have ended or Stop.
@@ -92,6 +92,7 @@ private:
     void ShowState(int worker, const QString &state);
     void EndTask(int worker, const QString &problem);
     void NoteEnd(int task, const QString &problem);
+    void LeaveReason(int task, const QString &reason);
     Milliseconds UntilNextTimeOut() const;
     void CheckTimeOuts();
 

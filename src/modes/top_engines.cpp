@@ -5,7 +5,7 @@
 #include "support/numbers.h"
 #include "support/url_encode.h"
 
-#include <QDir>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <algorithm>
 #include <cmath>
@@ -85,7 +85,7 @@ bool TopEngines::AwaitAnswer() {
     parts.form.SetVisible(true);
     while (!parts.form.TopEnginesGo && !parts.queue.Closing())
         parts.queue.Wait(EventQueue::withoutEnd);
-    return parts.form.List1.ListCount() > 0 && !parts.run.entireCancel && !parts.queue.Closing();
+    return parts.form.List1.ListCount() > 0 && !Ends();
 }
 
 // The box comes back each time that it is closed, until a row is selected on the form beside it.
@@ -96,24 +96,27 @@ bool TopEngines::AwaitSelection() {
 }
 
 void TopEngines::SubmitUrls() {
-    SubmissionRun &run = parts.run;
     ProjectRecord &record = parts.project.record;
-    run.urlCounter = 0;
-    run.entireCancel = false;
+    parts.files.SetTopEnginesActive(true);
+    const auto unlock = qScopeGuard([this] { parts.files.SetTopEnginesActive(false); });
+    parts.run.entireCancel = false;
+    notStored.clear();
     parts.project.path.SplitProjectPath();
-    EngineIndexFile = ReportsFolder() + u"top_engines_report.html"_s;
+    EngineIndexFile = parts.project.path.ReportFolder() + u"top_engines_report.html"_s;
+    reportFile = parts.result.reportFile; // opened if there is no URL
     if (!record.MultiUrlMode())
         record.multiUrlTable.SetCell(0, MultiUrlTable::urlColumn, record.txtURL.Text());
-    // The end of a run that goes on beside it raises the counter, too, so it can pass the last slot.
-    while (run.urlCounter <= record.MultiUrlUpper && !run.entireCancel && !parts.queue.Closing()) {
-        const int slot = run.urlCounter;
-        const bool empty = IsBlank(record.multiUrlTable.Cell(slot, MultiUrlTable::urlColumn));
-        if (!empty)
-            SubmitUrl(slot);
-        // A No does slot 0 alone, whichever was on show.
-        run.urlCounter = empty || allUrls ? run.urlCounter + 1 : record.MultiUrlUpper + 1;
+    // Counts for itself: urlCounter belongs to the runs, and one of them, or a job, can go on beside this.
+    for (int slot = 0; slot <= record.MultiUrlUpper && !Ends(); ++slot) {
+        if (IsBlank(record.multiUrlTable.Cell(slot, MultiUrlTable::urlColumn)))
+            continue;
+        SubmitUrl(slot);
+        if (!allUrls)
+            return; // the first URL alone, whichever was on show
     }
 }
+
+bool TopEngines::Ends() const { return parts.run.entireCancel || parts.queue.Closing(); }
 
 void TopEngines::SubmitUrl(int slot) {
     ProjectRecord &record = parts.project.record;
@@ -123,26 +126,21 @@ void TopEngines::SubmitUrl(int slot) {
     PrepareReportFolder(slot);
     const int urlStart = WholeSeconds(parts.clock);
     RunTopEnginesForUrl();
-    if (!parts.report.WriteEngineReport(parts.result.reportFile, urlStart))
-        parts.result.notStored << u"The report could not be written: "_s + parts.result.reportFile;
+    if (!parts.report.WriteEngineReport(reportFile, urlStart))
+        notStored << u"The report could not be written: "_s + reportFile;
     emit UrlEnded(slot);
 }
 
 void TopEngines::PrepareReportFolder(int slot) {
     parts.project.path.SplitProjectPath();
-    parts.result.reportFolder = ReportFolder(slot);
-    parts.result.reportFile = parts.result.reportFolder + reportName;
-    DeleteFilesIn(parts.result.reportFolder);
-    CreateReportFolders(parts.project.path, parts.result.reportFolder);
-}
-
-QString TopEngines::ReportsFolder() const {
-    const ProjectPath &path = parts.project.path;
-    return path.ProjectFolder + path.ProjectName + QDir::separator() + u"report"_s + QDir::separator();
-}
-
-QString TopEngines::ReportFolder(int slot) const {
-    return ReportsFolder() + u"URL%1"_s.arg(slot) + QDir::separator();
+    reportFolder = parts.project.path.ReportFolder(slot);
+    reportFile = reportFolder + reportName;
+    DeleteFilesIn(reportFolder);
+    CreateReportFolders(parts.project.path, reportFolder);
+    if (parts.run.RunActive())
+        return; // its pages and its report go where the shared paths lead
+    parts.result.reportFolder = reportFolder;
+    parts.result.reportFile = reportFile;
 }
 
 void TopEngines::RunTopEnginesForUrl() {
@@ -156,7 +154,7 @@ void TopEngines::RunTopEnginesForUrl() {
         upgrade->HoldUpgrade();
     parts.frame.SetPointer(MousePointer::Default);
     if (!parts.run.entireCancel) // pressed while the tasks were made
-        spider.Start(parts.result.reportFolder);
+        spider.Start(reportFolder);
     while (spider.Running() && !parts.queue.Closing())
         spider.WaitForTasks();
     spider.Stop();
@@ -217,8 +215,10 @@ void TopEngines::ShowReports(int jobStart) {
     const bool showsIndex = parts.project.record.MultiUrlMode() && allUrls;
     if (showsIndex)
         WriteIndex(jobStart);
+    if (!notStored.isEmpty())
+        parts.frame.Notice.SetCaption(notStored.join("; "_L1));
     if (!parts.queue.Closing())
-        parts.viewer.OpenDocument(showsIndex ? EngineIndexFile : parts.result.reportFile);
+        parts.viewer.OpenDocument(showsIndex ? EngineIndexFile : reportFile);
     if (parts.project.record.MultiUrlMode())
         parts.urlSlots.Show(0); // the scroll bar too, or the address would go into the slot on show
 }
@@ -226,9 +226,9 @@ void TopEngines::ShowReports(int jobStart) {
 void TopEngines::WriteIndex(int jobStart) {
     QStringList reportFiles;
     for (int slot = 0; slot <= parts.project.record.MultiUrlUpper; ++slot)
-        reportFiles << ReportFolder(slot) + reportName;
+        reportFiles << parts.project.path.ReportFolder(slot) + reportName;
     if (!parts.report.WriteEngineIndex(EngineIndexFile, reportFiles, jobStart))
-        parts.result.notStored << u"The page of all reports could not be written: "_s + EngineIndexFile;
+        notStored << u"The page of all reports could not be written: "_s + EngineIndexFile;
 }
 
 } // namespace lanterra

@@ -21,7 +21,8 @@ public:
         MainFrame &frame;
         UrlSlots &urlSlots;
         SubmissionRun &run;
-        RunResult &result; ///< whose report folder and file are used
+        RunResult &result; ///< gets the report folder and file of each URL, unless a run uses them
+        ProjectFiles &files;
         TopEnginesForm &form;
         EngineReport &report;
         SettingsForm &frmSettings;
@@ -37,14 +38,17 @@ public:
     void SetUpgradeCheck(UpgradeCheck *upgradeCheck) { upgrade = upgradeCheck; }
 
     /// The whole mode: the checks, the form and its answer, the submission of each URL with a report of its
-    /// own, and the page that is opened at the end. A call inside its own yields only brings the form back.
-    /// Yields.
+    /// own, and the page that is opened at the end. While URLs are submitted no other project can be opened.
+    /// A call inside its own yields only brings the form back. Yields.
     void SubmitTopEngines();
 
     QString EngineIndexFile; ///< path of the page that links the reports of a job over several URLs
 
     /// Whether the job that was last begun is one over all URLs of the project.
     bool AllUrls() const { return allUrls; }
+
+    /// The pages that the last job could not write, a sentence each. The frame's notice tells them, too.
+    const QStringList &NotStored() const { return notStored; }
 
 signals:
     /// The report of a URL has been written; the tasks of its spider can still be read.
@@ -56,11 +60,10 @@ private:
     bool UrlIsGiven();
     bool AwaitAnswer();
     bool AwaitSelection();
+    bool Ends() const;
     void SubmitUrls();
     void SubmitUrl(int slot);
     void PrepareReportFolder(int slot);
-    QString ReportsFolder() const;
-    QString ReportFolder(int slot) const;
     void RunTopEnginesForUrl();
     void ExpandRequests();
     void FillSpiderTasks();
@@ -74,6 +77,9 @@ private:
     UpgradeCheck *upgrade = nullptr;
     bool active = false;  ///< the mode is on the stack
     bool allUrls = false; ///< the answer about several URLs was Yes
+    QString reportFolder; ///< of the current URL, as its reportFile
+    QString reportFile;
+    QStringList notStored;
 };
 
 } // namespace lanterra

@@ -38,11 +38,22 @@ void ProjectFiles::ShowRecentFiles(const QStringList &names) {
 bool ProjectFiles::Accepts(const Control &entry) const { return entry.Enabled() && !busy; }
 
 void ProjectFiles::SetRunActive(bool active) {
-    mnuFileNew.SetEnabled(!active);
-    mnuFileOpen.SetEnabled(!active);
-    mnuFileSaveAs.SetEnabled(!active);
+    runActive = active;
+    LockEntries();
+}
+
+void ProjectFiles::SetTopEnginesActive(bool active) {
+    topEnginesActive = active;
+    LockEntries();
+}
+
+void ProjectFiles::LockEntries() {
+    const bool enabled = !runActive && !topEnginesActive;
+    mnuFileNew.SetEnabled(enabled);
+    mnuFileOpen.SetEnabled(enabled);
+    mnuFileSaveAs.SetEnabled(enabled);
     for (Control &item : mnuFileMRU)
-        item.SetEnabled(!active);
+        item.SetEnabled(enabled);
 }
 
 void ProjectFiles::mnuFileNew_Click() {

@@ -74,10 +74,11 @@ public:
     /// What the dialogs for an existing project start with. Creates the folder for projects.
     FileDialog OpenDialog() const;
 
-    /// The menu entries, disabled while a run is under way. Save stays.
+    /// The menu entries, disabled while a run, or a job of the top engines, is under way. Save stays.
     Control mnuFileNew, mnuFileOpen, mnuFileSaveAs;
     std::array<Label, RecentFile::limit> mnuFileMRU; ///< the recent files; those without a name are invisible
     void SetRunActive(bool active);
+    void SetTopEnginesActive(bool active);
 
 signals:
     /// An import has closed and stored everything: the process is to end at once, without the steps of a
@@ -87,6 +88,7 @@ signals:
 private:
     bool Accepts(const Control &entry) const;
     void ShowRecentFiles(const QStringList &names);
+    void LockEntries();
     bool SaveAs();
     QString SourceOfCopy();
     StoreResult Store(const QString &source);
@@ -99,6 +101,8 @@ private:
     SiteDatabaseImport *import = nullptr;
     bool busy = false; ///< a project is being loaded or saved
     bool ended = false;
+    bool runActive = false;
+    bool topEnginesActive = false;
 };
 
 } // namespace lanterra

@@ -56,7 +56,7 @@ Program::Program(const Doors &doors, const QString &programFolder)
       frmTop9({project.path.AppPath() + u"engine.dat"_s, frame, run, doors.dialogs, doors.queue, doors.clock},
               doors.makeClient),
       engineReport({project, frame, frmTop9, reportTemplates, doors.queue, doors.clock}),
-      topEngines({project, frame, urlSlots, run, result, frmTop9, engineReport, frmSettings, viewer,
+      topEngines({project, frame, urlSlots, run, result, files, frmTop9, engineReport, frmSettings, viewer,
                   doors.dialogs, doors.queue, doors.clock}),
       startUp({project, frame, frmSplash, frmWelcome, frmMain, frmSettings, frmWebBrowser, options,
                windowSettings, proxy, recentFile, files, startProject, categorySelection, run,

@@ -3,6 +3,7 @@
 #include "ports/dialogs.h"
 
 #include <deque>
+#include <functional>
 #include <stdexcept>
 #include <vector>
 
@@ -14,10 +15,12 @@ class FakeDialogs final : public Dialogs {
 public:
     BoxAnswer Show(const MessageBox &box) override {
         boxes.push_back(box);
+        onShow();
         return box.buttons == BoxButtons::Ok ? BoxAnswer::Ok : Next(answers, box.text);
     }
     QString Ask(const InputBox &box) override {
         inputBoxes.push_back(box);
+        onAsk();
         return Next(lines, box.title);
     }
     std::optional<QString> OpenFile(const FileDialog &dialog) override {
@@ -29,6 +32,8 @@ public:
     std::deque<BoxAnswer> answers;
     std::deque<QString> lines;
     std::deque<std::optional<QString>> files;
+    std::function<void()> onShow = [] {}; ///< runs while a message box is up
+    std::function<void()> onAsk = [] {};  ///< runs while the input box is up
 
     std::vector<MessageBox> boxes;
     std::vector<InputBox> inputBoxes;

@@ -116,7 +116,8 @@ TEST_F(TopEnginesTest, StopEndsTheUrlWhileCancelAndCloseEndTheJob) {
             });
         }
         program->run.mnuTop9_Click();
-        EXPECT_TRUE(Page(u"URL0/report.html"_s).contains(u"file:///bad,Canceled,file:///\r\n"_s));
+        EXPECT_TRUE(
+            Page(u"URL0/report.html"_s).contains(u"file:///bad,Canceled,"_s + Link(u"URL0/engine0.htm"_s)));
         EXPECT_EQ(Page(u"URL1/report.html"_s).contains(u"Successful"_s), goesOn);
         EXPECT_TRUE(Page(u"top_engines_report.html"_s)
                         .contains(u"<p><font size=\"2\"><a href=\"%1\">http://two.example/</a></font></p>\r\n"
@@ -141,6 +142,45 @@ TEST_F(TopEnginesTest, ANoSubmitsTheFirstUrlAndEmptiesItsFolder) {
     EXPECT_TRUE(Page(u"URL0/report.html"_s).contains(u"http://one.example/ 0 2024"_s));
     EXPECT_TRUE(Page(u"URL0/report.html"_s).endsWith(u"\r\n2 file:///bad\r\n"_s)) << "all URLs count";
     EXPECT_FALSE(QDir(home.filePath(u"Projects/Project1/report/URL1"_s)).exists());
+}
+
+TEST_F(TopEnginesTest, ItsBoxComesBackUntilAnEngineIsSelectedBesideIt) {
+    GivenProgram({u"One"_s});
+    Form().Load();
+    Form().List1.SetAllSelected(false);
+    EveryEngineAnswers();
+    dialogs.onShow = [this] { Form().List1.SetSelected(0, dialogs.boxes.size() == 3); };
+    Submit();
+    ASSERT_EQ(dialogs.boxes.size(), 3U);
+    EXPECT_EQ(dialogs.boxes[2].text, u"Please select search engines!"_s);
+    EXPECT_TRUE(Page(u"URL0/report.html"_s).contains(u"One,"_s));
+}
+
+TEST_F(TopEnginesTest, ARunBesideItTakesNeitherItsUrlsNorItsReports) {
+    GivenProgram({u"One"_s});
+    GivenTwoUrls();
+    program->project.lists.List1.SetAllSelected(false);
+    const QString runReport = home.filePath(u"Projects/Project1/report.htm"_s);
+    const auto run = [&] {
+        EXPECT_FALSE(program->files.mnuFileOpen.Enabled()) << "the next URLs would be another project's";
+        EveryEngineAnswers();
+        program->run.cmdStart_Click();
+        EXPECT_FALSE(program->files.mnuFileOpen.Enabled());
+        Answer(SpiderClient(0));
+    };
+    queue.WhenIdle([this] { Form().cmdSubmit_Click(); });
+    queue.WhenIdle(run);
+    dialogs.answers.push_back(BoxAnswer::Yes);
+    program->modes.mnuTopEngines_Click();
+    EXPECT_TRUE(QFile::remove(runReport));
+    EXPECT_TRUE(Page(u"URL1/report.html"_s).contains(u"Successful"_s));
+    EXPECT_TRUE(program->files.mnuFileOpen.Enabled());
+
+    dialogs.answers.push_back(BoxAnswer::Yes);
+    queue.AtYield(1, [this] { Submit(); });
+    program->run.cmdStart_Click();
+    EXPECT_TRUE(QFile::exists(runReport));
+    EXPECT_TRUE(Page(u"URL1/report.html"_s).contains(u"Successful"_s));
 }
 
 TEST_F(TopEnginesTest, WithoutAnEngineFileTheModeWaitsUntilItsFormIsCancelled) {

@@ -5,7 +5,6 @@
 #include "support/numbers.h"
 #include "support/text_file.h"
 
-#include <QDir>
 #include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
@@ -65,8 +64,7 @@ void MultiUrlJob::SubmitUrl(int slot) {
 void MultiUrlJob::SetReportPaths(int slot) {
     ProjectPath &path = parts.project.path;
     path.SplitProjectPath();
-    const QStringList folders{path.ProjectFolder + path.ProjectName, u"report"_s, u"URL%1"_s.arg(slot)};
-    parts.result.reportFolder = folders.join(QDir::separator()) + QDir::separator();
+    parts.result.reportFolder = path.ReportFolder(slot);
     parts.result.reportFile = parts.result.reportFolder + u"report.htm"_s;
     CreateReportFolders(path, parts.result.reportFolder);
     if (urlReportFiles.size() < MultiUrlTable::slotCount)
@@ -76,10 +74,12 @@ void MultiUrlJob::SetReportPaths(int slot) {
 void MultiUrlJob::WriteMultiIndex() {
     const Project &project = parts.project;
     QString &file = parts.result.reportFile;
-    file = project.path.ProjectFolder + project.path.ProjectName + QDir::separator() + u"report.htm"_s;
+    file = project.path.OwnFolder() + u"report.htm"_s;
     indexWritten =
         WriteFileText(file, MultiIndexPage(project.record.multiUrlTable, project.record.MultiUrlUpper,
                                            urlReportFiles, parts.clock.Now()));
+    if (!indexWritten)
+        parts.frame.Notice.SetCaption(u"The page of all reports could not be written: "_s + file);
     if (indexWritten && !parts.queue.Closing())
         parts.viewer.OpenDocument(file);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/main_frame.h"
 #include "project/project.h"
 #include "reports/run_result.h"
 #include "settings/document_viewer.h"
@@ -10,22 +11,23 @@ namespace lanterra {
 class ProjectPage {
 public:
     /// All must outlive this.
-    ProjectPage(const QString &fileName, Project &openProject, const RunResult &runResult,
-                DocumentViewer &documentViewer);
+    ProjectPage(const QString &fileName, Project &openProject, MainFrame &mainFrame,
+                const RunResult &runResult, DocumentViewer &documentViewer);
 
-    /// Finds the page's place anew and creates the project's folder and that of its reports where they are
-    /// missing.
-    void Prepare();
+    /// Replaces the page and shows it; creates the project's folder and that of its reports where they are
+    /// missing. If the page can't be written, the frame's notice tells so, and the old one is shown: false.
+    /// Yields.
+    bool Publish(const QString &html);
 
-    /// Where Prepare has found it to lie.
+    /// Where it was written last.
     const QString &Path() const { return path; }
 
-    /// Shows the page. Yields.
-    void Open() { viewer.OpenDocument(path); }
-
 private:
+    void Prepare();
+
     QString name;
     Project &project;
+    MainFrame &frame;
     const RunResult &result;
     DocumentViewer &viewer;
     QString path;

@@ -1,7 +1,6 @@
 #include "modes/semi_page.h"
 
 #include "support/product.h"
-#include "support/text_file.h"
 
 #include <algorithm>
 #include <array>
@@ -38,7 +37,7 @@ PageTemplate Piece(QStringView name) { return PageTemplate(u":/modes/semi/%1.htm
 } // namespace
 
 SemiPage::SemiPage(const Parts &theParts)
-    : parts(theParts), page(u"semi.htm"_s, parts.project, parts.result, parts.viewer) {}
+    : parts(theParts), page(u"semi.htm"_s, parts.project, parts.frame, parts.result, parts.viewer) {}
 
 bool SemiPage::RunMode() {
     if (parts.run.Pripremi_Submission() == u"zaustavi")
@@ -48,12 +47,7 @@ bool SemiPage::RunMode() {
     return written;
 }
 
-bool SemiPage::WriteSemiPage() {
-    page.Prepare();
-    const bool written = WriteFileText(page.Path(), Html());
-    page.Open();
-    return written;
-}
+bool SemiPage::WriteSemiPage() { return page.Publish(Html()); }
 
 QString SemiPage::Html() const {
     const PageTemplate::Values values = FieldValues();

@@ -17,6 +17,7 @@ class SemiPage {
 public:
     struct Parts {
         Project &project;
+        MainFrame &frame;
         const RunResult &result;
         const RequestCollector &collector; ///< has the encoded values of the last run
         const Hosts &hosts; ///< section [SemiAutomated]; without a host a form has its path alone

@@ -1,7 +1,6 @@
 #include "modes/top9_page.h"
 
 #include "support/code_page.h"
-#include "support/text_file.h"
 #include "support/text_template.h"
 
 using namespace Qt::StringLiterals;
@@ -25,17 +24,12 @@ QList<EngineAddress> EngineAddresses() {
 } // namespace
 
 Top9Page::Top9Page(const Parts &theParts)
-    : parts(theParts), page(u"top9single.htm"_s, parts.project, parts.result, parts.viewer) {
+    : parts(theParts), page(u"top9single.htm"_s, parts.project, parts.frame, parts.result, parts.viewer) {
     for (const EngineAddress &each : EngineAddresses())
         checks[each.engine] = 1;
 }
 
-bool Top9Page::WriteTop9Page() {
-    page.Prepare();
-    const bool written = WriteFileText(page.Path(), Html(parts.project.record.txtURL.Text()));
-    page.Open();
-    return written;
-}
+bool Top9Page::WriteTop9Page() { return page.Publish(Html(parts.project.record.txtURL.Text())); }
 
 bool Top9Page::WriteTop9Body(int slot, WholeFile &file) const {
     const QString url = parts.project.record.multiUrlTable.Cell(slot, MultiUrlTable::urlColumn);

@@ -19,6 +19,7 @@ class Top9Page {
 public:
     struct Parts {
         Project &project;
+        MainFrame &frame;
         const RunResult &result;
         const Hosts &hosts; ///< section [Top9]; without a host an address is its path alone
         DocumentViewer &viewer;

@@ -44,6 +44,13 @@ TEST_F(Top9PageTest, AFrameIsPrintedIfItsEngineIsOnAndALinkAlways) {
     EXPECT_TRUE(Written().contains("<frame name=\"10\" src=\"http://127.0.0.1:8571/webcrawler/"));
 }
 
+TEST_F(Top9PageTest, IsToldInTheNoticeIfItCannotBeWritten) {
+    ASSERT_TRUE(WriteWholeFile(home.filePath(u"Projects/Project1"_s), "in the way of the folder"));
+    EXPECT_FALSE(program->top9Page.WriteTop9Page());
+    EXPECT_EQ(program->frame.Notice.Caption(),
+              u"The page could not be written: "_s + program->top9Page.Path());
+}
+
 TEST_F(Top9PageTest, ItsBodyTakesTheUrlOfASlotAndLeavesTheFileOpen) {
     const QString path = home.filePath(u"body"_s);
     WholeFile file(path);

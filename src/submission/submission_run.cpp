@@ -81,10 +81,8 @@ void SubmissionRun::mnuSemi_Click() {
 
 QString SubmissionRun::Pripremi_Submission() {
     parts.frame.SetPointer(MousePointer::Hourglass);
-    if (!checks.FieldsPass()) {
-        SetRunActive(false);
+    if (!checks.FieldsPass())
         return u"zaustavi"_s;
-    }
     CorrectTimeLimit(parts.project.record);
     for (int number = 1; number <= channelCount; ++number)
         parts.channels.Channel(number).ClearDisplay();

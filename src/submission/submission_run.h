@@ -66,7 +66,7 @@ public:
 
     /// The checks and corrections at the start of a mode that has no run of its own: the required fields, the
     /// time limit, empty displays of the channels. "zaustavi" if a field is empty, which a box has told, else
-    /// "". Yields while the box is up.
+    /// "". A run that goes on beside the mode stays active either way. Yields while the box is up.
     QString Pripremi_Submission();
 
     /// "multiple": shows the form of several URLs. Yields.

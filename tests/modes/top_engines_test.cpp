@@ -177,7 +177,13 @@ TEST_F(TopEnginesTest, ARunBesideItTakesNeitherItsUrlsNorItsReports) {
     EXPECT_TRUE(program->files.mnuFileOpen.Enabled());
 
     dialogs.answers.push_back(BoxAnswer::Yes);
-    queue.AtYield(1, [this] { Submit(); });
+    queue.AtYield(1, [this] {
+        Record().txtTitle.SetText(u" "_s);
+        program->modes.mnuTopEngines_Click();
+        EXPECT_TRUE(program->run.RunActive()) << "although the mode was refused";
+        Record().txtTitle.SetText(u"x"_s);
+        Submit();
+    });
     program->run.cmdStart_Click();
     EXPECT_TRUE(QFile::exists(runReport));
     EXPECT_TRUE(Page(u"URL1/report.html"_s).contains(u"Successful"_s));

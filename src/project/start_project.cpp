@@ -26,7 +26,10 @@ void StartProject::ChooseStartProject(const QString &commandLine) {
         files.LoadProject();
         return;
     }
-    while (!queue.Closing() && !CreateProject(dialogs.Ask(nameQuestion))) {
+    while (!queue.Closing()) {
+        const QString name = dialogs.Ask(nameQuestion);
+        if (queue.Closing() || CreateProject(name))
+            return;
     }
 }
 

@@ -38,6 +38,13 @@ TEST_F(StartProjectTest, AsksForANameUntilOneIsGiven) {
     EXPECT_EQ(program->project.lists.List1.ListCount(), 1);
 }
 
+TEST_F(StartProjectTest, TheEndOfTheProgramEndsTheAskingWithoutABox) {
+    dialogs.lines = {QString()};
+    dialogs.onAsk = [this] { queue.Close(); };
+    Start().ChooseStartProject(QString());
+    EXPECT_TRUE(dialogs.boxes.empty());
+}
+
 TEST_F(StartProjectTest, DoesNotReplaceAProjectWithoutAskingAndTakesAnExistingFile) {
     GivenOpenProject(u"Shop"_s);
     program->project.record.txtTitle.SetText(u"Kept"_s);

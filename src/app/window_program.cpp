@@ -43,10 +43,13 @@ void WindowProgram::End() {
     while (QWidget *const menu = QApplication::activePopupWidget())
         menu->close();
     for (QWidget *top : QApplication::topLevelWidgets()) {
-        if (auto *const dialog = qobject_cast<QDialog *>(top); dialog && dialog->isVisible())
+        auto *const dialog = qobject_cast<QDialog *>(top);
+        // The Cancel of the progress would cut short a save, which goes on while the program ends.
+        if (dialog && dialog != &statusDialog && dialog->isVisible())
             dialog->reject();
     }
-    QApplication::quit();
+    // Not quit, which closes the windows first, that of the progress too.
+    QApplication::exit();
 }
 
 } // namespace lanterra

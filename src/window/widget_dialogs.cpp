@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMainWindow>
@@ -55,15 +56,21 @@ QStringList NameFilters(const QString &filter) {
     return filters;
 }
 
+// The chooser's own default suffix also goes to a file that is there without one, such as a program.
+QString WithExtension(const QString &path, const QString &extension) {
+    const QFileInfo file(path);
+    const bool complete = extension.isEmpty() || file.fileName().contains(u'.') || file.exists();
+    return complete ? path : path + u'.' + extension;
+}
+
 std::optional<QString> Chosen(QFileDialog &chooser, const FileDialog &dialog) {
     chooser.setNameFilters(NameFilters(dialog.filter));
     if (!dialog.folder.isEmpty())
         chooser.setDirectory(dialog.folder);
-    chooser.setDefaultSuffix(dialog.defaultExtension);
     chooser.selectFile(dialog.fileName);
     if (chooser.exec() != QDialog::Accepted)
         return std::nullopt;
-    return chooser.selectedFiles().value(0);
+    return WithExtension(chooser.selectedFiles().value(0), dialog.defaultExtension);
 }
 
 // A form that blocks the others comes first. Otherwise the main window is what a box blocks, not a form that

@@ -26,8 +26,16 @@ ReportDialog::~ReportDialog() = default;
 
 void ReportDialog::changeEvent(QEvent *event) {
     FormDialog::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        form.Form_Activate();
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+        return;
+    // Behind the event: the text is built with yields, and windows may come and go in them.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (isActiveWindow())
+                form.Form_Activate();
+        },
+        Qt::QueuedConnection);
 }
 
 } // namespace lanterra

@@ -18,6 +18,11 @@ QString TimeLeftText(int seconds) {
     return RunStatus::tr("about %1 min left").arg((seconds + secondsOfMinute - 1) / secondsOfMinute);
 }
 
+// As markup, so that names in the text aren't taken for such, and so that a long one wraps.
+QString ToolTip(const QString &text) {
+    return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+}
+
 } // namespace
 
 RunStatus::RunStatus(Program &program, QStatusBar &bar)
@@ -26,8 +31,12 @@ RunStatus::RunStatus(Program &program, QStatusBar &bar)
     auto *const notice = new QLabel(&bar);
     notice->setObjectName(QStringLiteral("Notice"));
     notice->setAccessibleName(tr("Notice"));
+    notice->setSizePolicy(QSizePolicy::Ignored,
+                          QSizePolicy::Preferred); // a long one must not widen the window
     bar.addWidget(notice, 1);
     FormBinder(bar).Bind(program.frame);
+    connect(&program.frame.Notice, &Label::CaptionChanged, notice,
+            [notice](const QString &text) { notice->setToolTip(ToolTip(text)); });
     progress.setAccessibleName(tr("Progress of the run"));
     progress.setMaximumWidth(progressWidth);
     progress.setRange(0, progressParts);

@@ -21,8 +21,13 @@ void WidgetForms::ShowModal(ModalForm form) {
 }
 
 void WidgetForms::PopUp(PopupMenu menu) {
-    if (const auto found = menus.find(menu); found != menus.end())
-        found->second->exec(PopUpPlace(buttons[menu]));
+    const auto found = menus.find(menu);
+    if (found == menus.end())
+        return;
+    QPoint place = PopUpPlace(buttons[menu]);
+    if (menu == PopupMenu::Engines)
+        place.rx() -= found->second->sizeHint().width() / 2;
+    found->second->exec(place);
 }
 
 } // namespace lanterra

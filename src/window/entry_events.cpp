@@ -24,11 +24,14 @@ bool IsReturn(const QEvent &event) {
 EntryEvents::EntryEvents(ProjectRecord &projectRecord, EntryHandlers &entryHandlers, QWidget &pane)
     : QObject(&pane), record(projectRecord), entry(entryHandlers) {
     for (const ProjectRecord::TextField &field : record.TextFields()) {
-        if (auto *widget = pane.findChild<QWidget *>(field.name)) {
-            boxes.insert(widget, field.box);
-            widget->installEventFilter(this);
-        }
+        if (auto *widget = pane.findChild<QWidget *>(field.name))
+            Watch(*widget, *field.box);
     }
+}
+
+void EntryEvents::Watch(QWidget &widget, TextBox &box) {
+    boxes.insert(&widget, &box);
+    widget.installEventFilter(this);
 }
 
 bool EntryEvents::eventFilter(QObject *watched, QEvent *event) {

@@ -18,6 +18,9 @@ public:
     /// the pane owns it.
     EntryEvents(ProjectRecord &projectRecord, EntryHandlers &entryHandlers, QWidget &pane);
 
+    /// Watches one more box, of another form. Both must outlive this.
+    void Watch(QWidget &widget, TextBox &box);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

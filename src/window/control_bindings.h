@@ -10,7 +10,7 @@ namespace lanterra {
 bool JoinCombo(QObject &control, QObject &face); ///< ComboBox and QComboBox
 bool JoinText(QObject &control, QObject &face);  ///< TextBox and QLineEdit or QPlainTextEdit
 bool JoinCheck(QObject &control, QObject &face); ///< CheckBox and a checkable button or action
-bool JoinLabel(QObject &control, QObject &face); ///< Label and QLabel, button or action
+bool JoinLabel(QObject &control, QObject &face); ///< Label and QLabel or action
 bool JoinButton(QObject &control, QObject &face);
 bool JoinList(QObject &control, QObject &face);   ///< any list or table model and a view
 bool JoinScroll(QObject &control, QObject &face); ///< ScrollBar and QAbstractSlider

@@ -45,9 +45,9 @@ void ChannelBank::Prepare() {
     }
 }
 
-void ChannelBank::CancelAll() {
+void ChannelBank::CancelAll(const QString &reason) {
     for (const auto &channel : channels)
-        channel->Cancel();
+        channel->Cancel(reason);
 }
 
 void ChannelBank::ShowIdle() {

@@ -36,8 +36,9 @@ public:
     void BeginRun();
     /// Empties what the pane shows of them, frees them and switches their clients on.
     void Prepare();
-    /// Ends all exchanges silently and frees the channels, in their order.
-    void CancelAll();
+    /// Ends all exchanges silently and frees the channels, in their order. The sites in flight get the
+    /// reason.
+    void CancelAll(const QString &reason);
     /// Gives all buttons the idle picture.
     void ShowIdle();
 

@@ -66,8 +66,10 @@ void SubmissionChannel::TimeOut(double limitSeconds) {
     closed = free = true;
 }
 
-void SubmissionChannel::Cancel() {
+void SubmissionChannel::Cancel(const QString &reason) {
     parts.client->Abort();
+    if (!Ended())
+        parts.result.Explain(siteIndex, reason);
     free = true;
 }
 

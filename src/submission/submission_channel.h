@@ -55,9 +55,10 @@ public:
     /// Cuts the exchange off as failed because the limit has passed.
     void TimeOut(double limitSeconds);
 
-    /// Ends the exchange silently, for Cancel, and frees the channel. `closed` and `completed` stay: a
-    /// channel that was cancelled in flight takes no other site in this run.
-    void Cancel();
+    /// Ends the exchange silently, for Cancel, and frees the channel. A site in flight keeps the reason unless
+    /// it is judged all the same. `closed` and `completed` stay: a channel that was cancelled in flight takes
+    /// no other site in this run.
+    void Cancel(const QString &reason);
 
     /// "Abort": only asks the client. What changes comes with the Error event that follows.
     void mnuAbort_Click();

@@ -11,6 +11,14 @@ using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
+namespace {
+
+// Why a site has no verdict.
+const QString programClosed = u"the program was closed"_s;
+const QString runCancelled = u"the run was cancelled"_s;
+
+} // namespace
+
 SubmissionRun::SubmissionRun(const Parts &theParts)
     : parts(theParts), checks(parts.project, parts.frame, parts.collector, parts.dialogs) {}
 
@@ -200,7 +208,7 @@ void SubmissionRun::DrainChannels() {
     while (!parts.channels.AllFree() && !parts.queue.Closing())
         parts.channels.WaitForChannels();
     if (parts.queue.Closing())
-        parts.channels.CancelAll();
+        parts.channels.CancelAll(programClosed);
 }
 
 void SubmissionRun::ShowCounts() {
@@ -245,8 +253,8 @@ void SubmissionRun::CompleteNotSelected() {
 }
 
 void SubmissionRun::ExplainMissingVerdicts() {
-    const QString reason = parts.queue.Closing() ? u"the program was closed"_s
-                           : cancelRequested     ? u"the run was cancelled"_s
+    const QString reason = parts.queue.Closing() ? programClosed
+                           : cancelRequested     ? runCancelled
                                                  : u"not sent, because no channel had ended"_s;
     for (int i = 0; i < static_cast<int>(parts.result.outcomes.size()); ++i) {
         if (parts.result.outcomes[static_cast<std::size_t>(i)].verdict == Verdict::None)
@@ -283,7 +291,7 @@ void SubmissionRun::Command1_Click() {
 void SubmissionRun::cmdCancel_Click() {
     if (!multiIdle)
         parts.forms.PopUp(PopupMenu::Cancel2); // dismissing it doesn't stop the cancel
-    parts.channels.CancelAll();
+    parts.channels.CancelAll(runCancelled);
     cancelRequested = true;
 }
 

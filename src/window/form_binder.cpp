@@ -29,7 +29,7 @@ void FormBinder::Bind(const QObject &model) const {
         if (control->objectName().isEmpty())
             continue;
         QObject *const face = FaceOf(form, control->objectName());
-        if (!face)
+        if (!face || face->property(boundProperty).value<QObject *>() == control)
             continue;
         if (!Join(*control, *face))
             qFatal("The widget %s of %s does not fit its control.", qUtf8Printable(face->objectName()),

@@ -20,7 +20,10 @@ MultiDialog::MultiDialog(MultiForm &multiForm, QWidget *parent)
     connect(
         &form.ListedURLs, &QAbstractItemModel::rowsInserted, this,
         [this](const QModelIndex &, int, int last) { EditLine(last + 1); }, Qt::QueuedConnection);
-    connect(ui->cmdOK, &QPushButton::clicked, this, [this] { form.cmdOK_Click(); });
+    connect(ui->cmdOK, &QPushButton::clicked, this, [this] {
+        ui->cmdOK->setFocus(); // its key leaves the focus where it is, and a line still being typed would go
+        form.cmdOK_Click();
+    });
     connect(ui->cmdCancel, &QPushButton::clicked, this, [this] { form.cmdCancel_Click(); });
 }
 

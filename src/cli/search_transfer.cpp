@@ -20,7 +20,7 @@ Outcome FetchAnswer(const CommandCall &call, WebSearch &search, const std::funct
     if (interrupt.WasPressed())
         return {ExitCode::Cancelled};
     if (!search.Failure().isEmpty())
-        return Outcome::Failed(u"No answer: %1."_s.arg(search.Failure()));
+        return Outcome::Failed(u"The search failed: %1."_s.arg(search.Failure()));
     const QFileInfo answer(search.AnswerFile());
     if (call.options.isSet(u"json"_s))
         call.console.PrintJson(

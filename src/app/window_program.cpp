@@ -39,6 +39,7 @@ void WindowProgram::Run(const QString &commandLine) {
 }
 
 void WindowProgram::End() {
+    const bool ends = queue.Closing();
     queue.Close();
     while (QWidget *const menu = QApplication::activePopupWidget())
         menu->close();
@@ -48,8 +49,10 @@ void WindowProgram::End() {
         if (dialog && dialog != &statusDialog && dialog->isVisible())
             dialog->reject();
     }
-    // Not quit, which closes the windows first, that of the progress too.
-    QApplication::exit();
+    // Not quit, which closes the windows first, that of the progress too. And not again: the loops that begin
+    // behind the first time are those of the questions on the way down.
+    if (!ends)
+        QApplication::exit();
 }
 
 } // namespace lanterra

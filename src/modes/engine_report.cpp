@@ -42,7 +42,10 @@ bool EngineReport::WriteEngineReport(const QString &reportFile, int urlStart) {
     return written;
 }
 
+// An engine without a task was selected too late. It has no result, least of all that of an earlier job.
 void EngineReport::CollectEngineResults() {
+    for (EngineRow &engine : parts.form.engines.rows)
+        engine.resultImage = engine.answerFile = engine.result = QString();
     Spider &spider = parts.form.Spider1;
     spider.RewindTasks();
     for (int task = 0; task < spider.TaskCount(); ++task) {

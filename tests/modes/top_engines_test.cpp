@@ -144,6 +144,21 @@ TEST_F(TopEnginesTest, ANoSubmitsTheFirstUrlAndEmptiesItsFolder) {
     EXPECT_FALSE(QDir(home.filePath(u"Projects/Project1/report/URL1"_s)).exists());
 }
 
+TEST_F(TopEnginesTest, AnEngineThatIsSelectedTooLateHasNoResult) {
+    GivenProgram({u"One"_s, u"Two"_s});
+    EveryEngineAnswers();
+    Submit();
+    Form().List1.SetSelected(1, false);
+    SpiderClient(0).onConnect = nullptr;
+    queue.WhenIdle([this] { Form().cmdSubmit_Click(); });
+    queue.WhenIdle([this] {
+        Form().List1.SetSelected(1, true);
+        Answer(SpiderClient(0));
+    });
+    program->run.mnuTop9_Click();
+    EXPECT_TRUE(Page(u"URL0/report.html"_s).contains(u"\r\nTwo,S Two,R Two,,,file:///\r\n"_s));
+}
+
 TEST_F(TopEnginesTest, ItsBoxComesBackUntilAnEngineIsSelectedBesideIt) {
     GivenProgram({u"One"_s});
     Form().Load();

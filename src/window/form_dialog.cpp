@@ -15,7 +15,7 @@ void FormDialog::ExecWhileVisible() {
 // A dialog takes the height of its texts on one line each unless it is told what wrapping them needs.
 void FormDialog::FitHeight() {
     if (layout() && layout()->hasHeightForWidth())
-        resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+        resize(width(), std::max(height(), layout()->totalMinimumHeightForWidth(width())));
 }
 
 } // namespace lanterra

@@ -17,6 +17,8 @@ namespace {
 const QString programClosed = u"the program was closed"_s;
 const QString runCancelled = u"the run was cancelled"_s;
 
+constexpr int pagesOfTurn = 32; ///< written in one turn of the queue, some milliseconds on a slow disk
+
 } // namespace
 
 SubmissionRun::SubmissionRun(const Parts &theParts)
@@ -125,13 +127,13 @@ void SubmissionRun::BeginRun() {
 void SubmissionRun::Prepare() {
     SubmitForm &form = parts.form;
     parts.result.Begin(parts.project.lists.List1.ListCount());
+    LockEntries(true); // before the first yield, so that the marks stay
     PrepareReportPages();
     form.Label28.SetCaption(QString::number(parts.project.lists.List1.SelCount()));
     CorrectEntries(parts.project.record);
     phase = 1;
     parts.channels.Prepare();
     parts.proxy.ApplyProxySettings();
-    LockEntries(true);
     nextSite = 0;
     parts.counter.Fire();
     form.Label2.SetCaption(parts.project.record.txtURL.Text());
@@ -152,6 +154,8 @@ void SubmissionRun::PrepareReportPages() {
             continue;
         WriteSitePage(parts.result.reportFolder, lists.SiteName(i), page);
         parts.result.Await(i);
+        if (i % pagesOfTurn == pagesOfTurn - 1)
+            parts.queue.Yield();
     }
 }
 

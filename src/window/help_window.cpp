@@ -46,6 +46,7 @@ QString HelpWindow::ShowIndex(const QString &helpFile) {
         return tr("The help file %1 can't be read.").arg(QDir::toNativeSeparators(helpFile));
     ListPages(indexPage);
     ShowPage(indexPage);
+    ui->page->setFocus(); // the list would make its first page current, which leaves the index
     show();
     raise();
     activateWindow();

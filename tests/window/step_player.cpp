@@ -60,7 +60,8 @@ void StepPlayer::GiveUp() {
         return object ? object->metaObject()->className() + (' ' + object->objectName().toStdString())
                       : "none";
     };
-    ADD_FAILURE() << "This never came: " << (steps.empty() ? "the end" : steps.front().when.what)
+    ADD_FAILURE() << "This never came: "
+                  << (steps.empty() ? "the end" : steps.front().when.what.toStdString())
                   << ". Active window: " << name(QApplication::activeWindow())
                   << ", popup: " << name(QApplication::activePopupWidget())
                   << ", focus: " << name(QApplication::focusWidget());

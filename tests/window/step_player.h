@@ -4,14 +4,13 @@
 #include <QTimer>
 #include <deque>
 #include <functional>
-#include <string>
 #include <vector>
 
 namespace lanterra {
 
 /// What a user waits for, with words for the case that it never comes.
 struct Condition {
-    std::string what;
+    QString what;
     std::function<bool()> holds;
 };
 

@@ -15,38 +15,39 @@ namespace lanterra {
 
 namespace {
 
-QWindow *InputWindow() {
-    QWidget *const popup = QApplication::activePopupWidget();
-    return popup ? popup->windowHandle() : QGuiApplication::focusWindow();
-}
-
-void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(InputWindow(), key, modifiers);
-}
-
-// By the window, so that the click goes astray if the widget isn't where it can be seen.
-void ClickAt(QWidget &widget, QPoint place) {
-    QWidget &window = *widget.window();
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, widget.mapTo(&window, place));
-}
-
 QWidget *FindForm(const QString &name) {
     for (QWidget *top : QApplication::topLevelWidgets()) {
-        if (top->objectName() == name)
-            return top;
-        if (auto *const child = top->findChild<QWidget *>(name))
-            return child;
+        QWidget *const form = top->objectName() == name ? top : top->findChild<QWidget *>(name);
+        if (form)
+            return form;
     }
     return nullptr;
 }
 
+template <class Dialog>
+Dialog *ActiveModal() {
+    auto *const dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
+    return dialog && dialog->isActiveWindow() ? dialog : nullptr;
+}
+
 QMenu *ActiveMenu() { return qobject_cast<QMenu *>(QApplication::activePopupWidget()); }
+
+void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    const QWidget *const popup = QApplication::activePopupWidget();
+    QTest::keyClick(popup ? popup->windowHandle() : QGuiApplication::focusWindow(), key, modifiers);
+}
+
+// By the window, so that the click goes astray if the widget isn't where it can be seen.
+void ClickAt(const QWidget &widget, QPoint place) {
+    const QWidget &window = *widget.window();
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, widget.mapTo(&window, place));
+}
 
 } // namespace
 
 WindowFixture::WindowFixture() {
     qputenv("HOME", home.path().toUtf8());
-    qputenv("XDG_CONFIG_HOME", home.filePath(u"config"_s).toUtf8());
+    qputenv("XDG_CONFIG_HOME", Path("config").toUtf8());
     EXPECT_TRUE(park.Start(0));
 }
 
@@ -56,7 +57,7 @@ void WindowFixture::GivenMaster(const QStringList &names) {
     ASSERT_EQ(source.sites.size(), names.size());
     for (SiteEntry &site : source.sites)
         site.action.replace(u"http://127.0.0.1:8571"_s, park.Origin());
-    ASSERT_TRUE(BuildSiteDatabase(source, Path(u"ng.dll"_s)));
+    ASSERT_TRUE(BuildSiteDatabase(source, Path("ng.dll")));
 }
 
 void WindowFixture::Play(const std::vector<Step> &steps, const QString &commandLine) {
@@ -72,63 +73,71 @@ void WindowFixture::Play(const std::vector<Step> &steps, const QString &commandL
         EXPECT_FALSE(top->isVisible()) << top->objectName().toStdString();
 }
 
-QWidget &WindowFixture::Form(const QString &name) {
-    QWidget *const form = FindForm(name);
+QWidget &WindowFixture::Form(QAnyStringView name) {
+    QWidget *const form = FindForm(name.toString());
     if (!form)
-        qFatal("There is no form %s.", qUtf8Printable(name));
+        qFatal("There is no form %s.", qUtf8Printable(name.toString()));
     return *form;
 }
 
-QWidget &WindowFixture::Widget(const QString &form, const QString &name) {
-    auto *const widget = Form(form).findChild<QWidget *>(name);
+QWidget &WindowFixture::Widget(QAnyStringView form, QAnyStringView name) {
+    auto *const widget = Form(form).findChild<QWidget *>(name.toString());
     if (!widget)
-        qFatal("There is no %s on %s.", qUtf8Printable(name), qUtf8Printable(form));
+        qFatal("The form has no %s.", qUtf8Printable(name.toString()));
     return *widget;
 }
 
-Condition WindowFixture::Up(const QString &form) {
-    return {form.toStdString(), [form] {
-                const QWidget *const widget = FindForm(form);
+QString WindowFixture::Outcome(QAnyStringView site) const {
+    const OutcomeTable &table = program->program.outcomes;
+    const auto found = table.match(table.index(0, OutcomeTable::Site), Qt::DisplayRole, site.toString());
+    if (found.isEmpty())
+        return {};
+    return found.first().siblingAtColumn(OutcomeTable::Result).data().toString() + u": "_s +
+           found.first().siblingAtColumn(OutcomeTable::Reason).data().toString();
+}
+
+Condition WindowFixture::Up(QAnyStringView form) {
+    return {form.toString(), [name = form.toString()] {
+                const QWidget *const widget = FindForm(name);
                 return widget && widget->isVisible() && widget->window()->isActiveWindow() &&
                        !QApplication::activePopupWidget();
             }};
 }
 
-Condition WindowFixture::Menu(const QString &title) {
-    return {"menu " + title.toStdString(),
-            [title] { return ActiveMenu() && ActiveMenu()->title().remove(u'&') == title; }};
-}
-
-Condition WindowFixture::Box(const QString &text) {
-    return {"box " + text.toStdString(), [text] {
-                const auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-                return box && box->isActiveWindow() && box->text().contains(text);
+Condition WindowFixture::Menu(QAnyStringView title) {
+    return {title.toString(), [wanted = title.toString()] {
+                return ActiveMenu() && ActiveMenu()->title().remove(u'&') == wanted;
             }};
 }
 
-Condition WindowFixture::Asked(const QString &title) {
-    return {"question " + title.toStdString(), [title] {
-                const auto *const input = qobject_cast<QInputDialog *>(QApplication::activeModalWidget());
-                return input && input->isActiveWindow() && input->windowTitle() == title;
+Condition WindowFixture::Box(QAnyStringView text) {
+    return {text.toString(), [wanted = text.toString()] {
+                const auto *const box = ActiveModal<QMessageBox>();
+                return box && box->text().contains(wanted);
             }};
 }
 
-Condition WindowFixture::At(const QString &widget) {
-    return {"focus on " + widget.toStdString(), [widget] {
+Condition WindowFixture::Asked(QAnyStringView title) {
+    return {title.toString(), [wanted = title.toString()] {
+                const auto *const input = ActiveModal<QInputDialog>();
+                return input && input->windowTitle() == wanted;
+            }};
+}
+
+Condition WindowFixture::At(QAnyStringView widget) {
+    return {widget.toString(), [name = widget.toString()] {
                 const QWidget *const focus = QApplication::focusWidget();
-                return focus && focus->objectName() == widget;
+                return focus && focus->objectName() == name;
             }};
 }
 
-Action WindowFixture::Types(const QString &text) {
-    return [text] {
-        for (const QChar character : text) {
-            if (character == u'\n')
-                Press(Qt::Key_Return);
-            else if (character == u'\t')
-                Press(Qt::Key_Tab);
+Action WindowFixture::Types(QAnyStringView text) {
+    return [keys = text.toString().toLatin1()] {
+        for (const char key : keys) {
+            if (key == '\n' || key == '\t')
+                Press(key == '\n' ? Qt::Key_Return : Qt::Key_Tab);
             else
-                QTest::keyClick(InputWindow(), character.toLatin1());
+                QTest::keyClick(QGuiApplication::focusWindow(), key);
         }
     };
 }
@@ -137,36 +146,40 @@ Action WindowFixture::Presses(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     return [key, modifiers] { Press(key, modifiers); };
 }
 
-Action WindowFixture::Clicks(const QString &form, const QString &name) {
-    return [form, name] {
-        QWidget &widget = Widget(form, name);
+Action WindowFixture::Clicks(QAnyStringView form, QAnyStringView name) {
+    return [formName = form.toString(), widgetName = name.toString()] {
+        const QWidget &widget = Widget(formName, widgetName);
         ClickAt(widget, widget.rect().center());
     };
 }
 
-Action WindowFixture::ClicksMark(const QString &form, const QString &list, const QString &entry) {
-    return [form, list, entry] {
-        auto &view = Find<QListView>(form, list);
-        const QModelIndexList found = view.model()->match(view.model()->index(0, 0), Qt::DisplayRole, entry);
-        ASSERT_FALSE(found.isEmpty()) << entry.toStdString();
-        const QRect place = view.visualRect(found.first());
-        ClickAt(*view.viewport(), QPoint(place.left() + place.height() / 2, place.center().y()));
+Action WindowFixture::ClicksMark(QAnyStringView form, QAnyStringView list, QAnyStringView entry) {
+    return [formName = form.toString(), listName = list.toString(), text = entry.toString()] {
+        const auto &view = Find<QListView>(formName, listName);
+        const QRect place =
+            view.visualRect(view.model()->match(view.model()->index(0, 0), Qt::DisplayRole, text).value(0));
+        ClickAt(*view.viewport(), {place.left() + place.height() / 2, place.center().y()});
     };
 }
 
-Action WindowFixture::Chooses(const QString &entry) {
-    return [entry] {
-        QMenu &menu = *ActiveMenu();
+Action WindowFixture::Chooses(QAnyStringView entry) {
+    return [text = entry.toString()] {
+        const QMenu &menu = *ActiveMenu();
         for (QAction *action : menu.actions()) {
-            if (action->text().remove(u'&') == entry)
+            if (action->text().remove(u'&') == text)
                 return ClickAt(menu, menu.actionGeometry(action).center());
         }
-        ADD_FAILURE() << "The menu has no " << entry.toStdString();
+        ADD_FAILURE() << "The menu has no " << text.toStdString();
     };
 }
 
 Action WindowFixture::ClosesWindow() {
-    return [] { Form(u"MainWindow"_s).close(); };
+    return [] { Form("MainWindow").close(); };
+}
+
+std::vector<Step> operator+(std::vector<Step> first, const std::vector<Step> &second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
 }
 
 } // namespace lanterra

@@ -23,35 +23,39 @@ protected:
     /// The program, new on what the last one left behind, until its end.
     void Play(const std::vector<Step> &steps, const QString &commandLine = {});
 
-    /// A form or pane and what is on it, by object name; a test that asks for more ends.
-    static QWidget &Form(const QString &name);
-    static QWidget &Widget(const QString &form, const QString &name);
+    /// A form or pane and what is on it, by object name; the program ends over one that isn't there.
+    static QWidget &Form(QAnyStringView name);
+    static QWidget &Widget(QAnyStringView form, QAnyStringView name);
     template <class Kind>
-    static Kind &Find(const QString &form, const QString &name) {
-        return *qobject_cast<Kind *>(&Widget(form, name));
+    static Kind &Find(QAnyStringView form, QAnyStringView name) {
+        return dynamic_cast<Kind &>(Widget(form, name));
     }
+    /// What the last run tells of a site: result and reason.
+    QString Outcome(QAnyStringView site) const;
+    QString Path(QAnyStringView name) const { return home.filePath(name.toString()); }
 
     // What a user waits for.
-    static Condition Up(const QString &form);     ///< on top, and the keys go there
-    static Condition Menu(const QString &title);  ///< a popup menu or one of the menu bar
-    static Condition Box(const QString &text);    ///< a message box with this text in it
-    static Condition Asked(const QString &title); ///< a box for a line of text
-    static Condition At(const QString &widget);   ///< which has the focus
+    static Condition Up(QAnyStringView form);     ///< on view in the window that takes the keys
+    static Condition Menu(QAnyStringView title);  ///< a popup menu or one of the menu bar
+    static Condition Box(QAnyStringView text);    ///< a message box with this text in it
+    static Condition Asked(QAnyStringView title); ///< a box for a line of text
+    static Condition At(QAnyStringView widget);   ///< which has the focus
 
     // What a user does. "\n" and "\t" in a text are the Return and the Tab key.
-    static Action Types(const QString &text);
+    static Action Types(QAnyStringView text);
     static Action Presses(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    static Action Clicks(const QString &form, const QString &name);
-    static Action ClicksMark(const QString &form, const QString &list, const QString &entry);
-    static Action Chooses(const QString &entry); ///< of the menu that is up
+    static Action Clicks(QAnyStringView form, QAnyStringView name);
+    static Action ClicksMark(QAnyStringView form, QAnyStringView list, QAnyStringView entry);
+    static Action Chooses(QAnyStringView entry); ///< of the menu that is up
     static Action ClosesWindow();
-
-    QString Path(const QString &name) const { return home.filePath(name); }
 
     QTemporaryDir home;
     AccessLog log{QString()};
     ParkServer park{0, log};
     std::unique_ptr<WindowProgram> program;
 };
+
+/// Both, one after the other.
+std::vector<Step> operator+(std::vector<Step> first, const std::vector<Step> &second);
 
 } // namespace lanterra

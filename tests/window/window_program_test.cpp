@@ -1,6 +1,11 @@
 #include "tests/window/window_fixture.h"
 
-#include <QFile>
+#include "support/whole_file.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QListView>
+#include <QTextBrowser>
 
 using namespace Qt::StringLiterals;
 
@@ -47,6 +52,31 @@ TEST_F(WindowProgramTest, WhoEndsItTwiceIsAskedAllTheSame) {
         program->End();
     });
     steps.push_back({Box(u"The project could not be saved."_s), Presses(Qt::Key_Return)});
+    Play(steps);
+}
+
+TEST_F(WindowProgramTest, TheHelpIsShownOrABoxTellsWhyNot) {
+    GivenMaster({u"Quillfind"_s});
+    std::vector<Step> steps = Started(Presses(Qt::Key_F1));
+    const auto findHelp = [this] {
+        const QString pages = QFileInfo(QStringLiteral(SITES)).dir().filePath(u"../docs/help/index.md"_s);
+        EXPECT_TRUE(WriteWholeFile(Path(u"lanterra.hlp"_s), pages.toUtf8()));
+        Presses(Qt::Key_F1)();
+    };
+    const auto turnPages = [this] {
+        auto &index = Find<QListView>(u"HelpWindow"_s, u"index"_s);
+        EXPECT_GT(index.model()->rowCount(), 3);
+        index.setCurrentIndex(index.model()->index(1, 0));
+        EXPECT_FALSE(Find<QTextBrowser>(u"HelpWindow"_s, u"page"_s).toPlainText().isEmpty());
+        program->program.frmMain.helpFile.clear();
+        Presses(Qt::Key_Escape)();
+        program->program.frmMain.mnuHelpContents_Click();
+    };
+    steps.push_back({Box(u"can't be read"_s), Presses(Qt::Key_Return)});
+    steps.push_back({Up(u"MainWindow"_s), findHelp});
+    steps.push_back({Up(u"HelpWindow"_s), turnPages});
+    steps.push_back({Box(u"There is no Help associated with this project."_s), Presses(Qt::Key_Return)});
+    steps.push_back({Up(u"MainWindow"_s), ClosesWindow()});
     Play(steps);
 }
 

@@ -36,7 +36,7 @@ make_project() {
 
 start_park
 if [ "$window" ]; then
-    [ -e "$project" ] || make_project # what was changed in the window stays
+    [ -e "$project" ] || make_project >/dev/null # what was changed in the window stays
     "$build/bin/lanterra" --home "$home" "$project"
 else
     make_project

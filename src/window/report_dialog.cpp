@@ -17,6 +17,8 @@ ReportDialog::ReportDialog(ReportForm &reportForm, QWidget *parent)
     FormBinder(*this).Bind(form);
     Follow(form);
     ui->Text1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    // Behind the event: the text is built with yields, and windows may come and go in them.
+    connect(this, &ReportDialog::ActivationChanged, this, &ReportDialog::Rebuild, Qt::QueuedConnection);
     connect(ui->Command1, &QPushButton::clicked, this, [this] { form.Command1_Click(); });
     connect(ui->cmdprint, &QPushButton::clicked, this, [this] { form.cmdprint_Click(); });
     connect(ui->cmdOk, &QPushButton::clicked, this, [this] { form.cmdOk_Click(); });
@@ -26,16 +28,13 @@ ReportDialog::~ReportDialog() = default;
 
 void ReportDialog::changeEvent(QEvent *event) {
     FormDialog::changeEvent(event);
-    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
-        return;
-    // Behind the event: the text is built with yields, and windows may come and go in them.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (isActiveWindow())
-                form.Form_Activate();
-        },
-        Qt::QueuedConnection);
+    if (event->type() == QEvent::ActivationChange)
+        emit ActivationChanged();
+}
+
+void ReportDialog::Rebuild() {
+    if (isActiveWindow())
+        form.Form_Activate();
 }
 
 } // namespace lanterra

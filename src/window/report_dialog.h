@@ -21,10 +21,15 @@ public:
     ~ReportDialog() override;
     Q_DISABLE_COPY_MOVE(ReportDialog)
 
+signals:
+    void ActivationChanged();
+
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void Rebuild();
+
     ReportForm &form;
     std::unique_ptr<Ui::ReportDialog> ui;
 };

@@ -24,13 +24,13 @@ constexpr int portalPatience = 300; ///< ms; a portal that doesn't answer must n
 
 /// The colours of one scheme, by what they are used for.
 struct Colours {
-    QColor window, base, raised, text, fadedText, line, accent, onAccent, link, alert;
+    QColor window, base, raised, text, fadedText, line, accent, onAccent, link, alert, quiet;
 };
 
-const Colours lightColours{"#f4f6f6", "#ffffff", "#ffffff", "#1f2a2e", "#66747a",
-                           "#d3dadb", "#2f7d6d", "#ffffff", "#1c6a8f", "#c00000"};
-const Colours darkColours{"#1f2526", "#171c1d", "#2a3233", "#e4eaea", "#93a2a4",
-                          "#3c4749", "#3f9a87", "#ffffff", "#7cc0dd", "#ff7b6b"};
+const Colours lightColours{"#f4f6f6", "#ffffff", "#ffffff", "#1f2a2e", "#66747a", "#d3dadb",
+                           "#2f7d6d", "#ffffff", "#1c6a8f", "#c00000", "#404040"};
+const Colours darkColours{"#1f2526", "#171c1d", "#2a3233", "#e4eaea", "#93a2a4", "#3c4749",
+                          "#3f9a87", "#ffffff", "#7cc0dd", "#ff7b6b", "#c8cfd0"};
 
 QPalette PaletteOf(const Colours &colours) {
     QPalette palette(colours.text, colours.raised, colours.base, colours.line, colours.line, colours.text,
@@ -89,11 +89,13 @@ void Theme::PortalSettingChanged(const QString &group, const QString &key, const
 }
 
 void Theme::Wear(bool dark) {
-    QApplication::setPalette(PaletteOf(dark ? darkColours : lightColours));
-    // The sheet is set again so that its palette() colours are looked up anew.
+    const Colours &colours = dark ? darkColours : lightColours;
+    QApplication::setPalette(PaletteOf(colours));
+    // The sheet is set again so that its palette() colours are looked up anew. The palette has no role for
+    // the quiet text of the toolbar.
     QFile sheet(u":/window/style.qss"_s);
     if (sheet.open(QIODevice::ReadOnly))
-        app.setStyleSheet(QString::fromUtf8(sheet.readAll()));
+        app.setStyleSheet(QString::fromUtf8(sheet.readAll()).replace("@quiet"_L1, colours.quiet.name()));
 }
 
 } // namespace lanterra

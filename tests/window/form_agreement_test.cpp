@@ -114,7 +114,7 @@ QString TextOf(const QWidget &form, const QString &name) {
             return label->text();
     }
     for (; face != &form; face = face->parent()) {
-        const QString text = face->property("text").toString() + face->property("title").toString();
+        QString text = face->property("text").toString() + face->property("title").toString();
         if (!text.isEmpty() && text != "0"_L1)
             return text;
     }

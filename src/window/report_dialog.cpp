@@ -17,6 +17,7 @@ ReportDialog::ReportDialog(ReportForm &reportForm, QWidget *parent)
     FormBinder(*this).Bind(form);
     Follow(form);
     ui->Text1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    ui->cmdOk->setFocus(); // so that Return closes the form, and does not write into the text
     // Behind the event: the text is built with yields, and windows may come and go in them.
     connect(this, &ReportDialog::ActivationChanged, this, &ReportDialog::Rebuild, Qt::QueuedConnection);
     connect(ui->Command1, &QPushButton::clicked, this, [this] { form.Command1_Click(); });

@@ -145,6 +145,28 @@ row "start of lanterra-cli --version" "$version_wall ms" ""
 row "start of the smallest Qt program" "$smallest_wall ms" ""
 row "ratio of both" "$(ratio "$version_wall" "$smallest_wall")" "2"
 
+# The window, drawn in memory, without the time that a screen of its own would add to both sides of a comparison.
+export QT_QPA_PLATFORM=offscreen
+printf '[Settings]\nch="1"\nLoadLastProject="0"\n' >"$XDG_CONFIG_HOME/Lanterra.ini"
+read -r window_wall _ _ < <("$measure" 21 "$build/bin/bench_window" start "$work/quick/p.rts")
+read -r smallest_wall _ _ < <("$measure" 21 "$build/bin/bench_smallest_window")
+row "start of the window with 500 sites, to the first painting" "$window_wall ms" ""
+row "the smallest Qt program with a main window" "$smallest_wall ms" ""
+row "the difference of both" "$(awk -v a="$window_wall" -v b="$smallest_wall" 'BEGIN { print a - b }') ms" "150 ms"
+
+# window_figure WHAT PROJECT: the median of what several processes of the window print.
+window_figure() {
+    for ((i = 0; i < runs; i++)); do
+        "$build/bin/bench_window" "$1" "$work/$2/p.rts" 2>/dev/null
+    done | sort -n | sed -n "$(((runs + 1) / 2))p"
+}
+
+make_project many 5000 45 "$quick_form"
+row "longest time without a turn of the queue, run of 500" "$(window_figure gap quick) ms" "30 ms"
+row "\"Select All\" over 5,000 sites" "$(window_figure select many) ms" "50 ms"
+row "memory after 100 runs, more than after 1" "$(window_figure memory quick) KiB" "2048 KiB"
+row "statistics pane with 10,000 sessions" "$(window_figure statistics quick) ms" "100 ms"
+
 # One line a figure: the text cipher beside a plain XOR loop over the same generator.
 cipher_speed() {
     "$build/bin/bench_cipher" --benchmark_filter="$1" --benchmark_format=csv 2>/dev/null |

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # make_screenshots.sh [OUT [BUILD]]: takes a picture of every pane, dialog and menu of the window, light and dark, on a
-# screen and a network of its own: nobody sees the windows, and the practice web has its usual port. OUT is
+# screen, a network and a folder of its own: nobody sees the windows, and the practice web has its usual port. OUT is
 # docs/screenshots, BUILD build/release. LANTERRA_SCREEN (1024x700) and QT_SCALE_FACTOR give other sizes.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
 mapfile -t packages < <(grep -v '^#' tools/screenshot_packages.txt)
 tools/install_packages.sh "${packages[@]}"
-[ -n "${LANTERRA_OWN_NETWORK-}" ] || LANTERRA_OWN_NETWORK=1 exec unshare --map-root-user --net tools/make_screenshots.sh "$@"
+[ -n "${LANTERRA_OWN_NETWORK-}" ] || LANTERRA_OWN_NETWORK=1 exec unshare --map-root-user --net --mount tools/make_screenshots.sh "$@"
 ip link set lo up
 
 out=${1-docs/screenshots}
@@ -15,7 +15,9 @@ build=${2-build/release}
 mkdir -p "$out"
 out=$(readlink -f "$out") build=$(readlink -f "$build")
 
-work=$(mktemp -d)
+mount -t tmpfs none /srv # the pictures show the folder, so it has one name on every machine
+work=/srv/ada
+mkdir "$work"
 jobs=()
 trap 'kill "${jobs[@]}" 2>/dev/null || true; rm -rf "$work"' EXIT
 export XDG_CONFIG_HOME=$work/config HOME=$work QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8

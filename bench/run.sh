@@ -118,6 +118,14 @@ make_project slow 500 45 "${slow}behave/plain"
 slow_ms=$(dispatch_ms slow)
 row "500 sites at 200 ms latency, over the ideal 20 s" "$(ratio "$slow_ms" 20000)" "1.02"
 
+# Ten URLs, each with a run over 100 sites at 50 ms: a job can't be faster than ten times a second.
+start_park near --latency 50
+make_project urls 100 45 "${near}behave/plain"
+"$cli" --home "$work/urls" set "$work/urls/p.rts" chkMultiSameDesc=1 >/dev/null
+"$cli" --home "$work/urls" urls "$work/urls/p.rts" "${quick}"page{0..9} >/dev/null
+read -r urls_wall _ _ < <("$measure" "$runs" $(submit urls) --urls)
+row "job over ten URLs and 100 sites at 50 ms, over ten seconds" "$(ratio "$urls_wall" 10000)" "1.03"
+
 # 13 engines at 300 ms: the spider's five can't be faster than three rounds.
 start_park late --latency 300
 make_project engines 1 45 "$quick_form"

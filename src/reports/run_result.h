@@ -79,6 +79,8 @@ public:
     /// The time from the first dispatch of the run to its last verdict so far, by a clock that only grows. 0
     /// before the first verdict.
     std::chrono::milliseconds Duration() const { return lastVerdict - firstDispatch; }
+    /// The moment of the last verdict so far by that clock, 0 before the first.
+    std::chrono::milliseconds LastVerdict() const { return lastVerdict; }
     void NoteDispatch(std::chrono::milliseconds moment);
     /// Notes how the site at a List1 position fared. An index outside the run is passed over.
     void Judge(int listIndex, const SiteOutcome &outcome, std::chrono::milliseconds moment);

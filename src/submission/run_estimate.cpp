@@ -13,8 +13,10 @@ constexpr auto pace = 250ms;
 
 RunEstimate::RunEstimate(const RunResult &runResult, const Clock &systemClock)
     : result(runResult), clock(systemClock) {
-    later.setSingleShot(true);
-    connect(&later, &QTimer::timeout, this, &RunEstimate::Announce);
+    for (QTimer *timer : {&later, &overdue}) {
+        timer->setSingleShot(true);
+        connect(timer, &QTimer::timeout, this, &RunEstimate::Announce);
+    }
     connect(&result, &RunResult::Begun, this, &RunEstimate::Announce);
     connect(&result, &RunResult::OutcomeChanged, this, &RunEstimate::Follow);
     connect(&result, &RunResult::Ended, this, &RunEstimate::Announce);
@@ -36,8 +38,11 @@ std::optional<int> RunEstimate::SecondsLeft() const {
     const int covered = Covered();
     if (!result.UnderWay() || covered == 0)
         return {};
-    const double soFar = std::chrono::duration<double>(result.Duration()).count();
-    return static_cast<int>(std::ceil(soFar * std::max(0, Total() - covered) / covered));
+    const std::chrono::duration<double> left =
+        result.Duration() * std::max(0, Total() - covered) / static_cast<double>(covered);
+    if (clock.Elapsed() - result.LastVerdict() > left + pace)
+        return {};
+    return static_cast<int>(std::ceil(left.count()));
 }
 
 void RunEstimate::Follow() {
@@ -51,6 +56,8 @@ void RunEstimate::Follow() {
 void RunEstimate::Announce() {
     later.stop();
     lastChange = clock.Elapsed();
+    if (const std::optional<int> left = SecondsLeft())
+        overdue.start(std::chrono::seconds(*left) + pace);
     emit Changed();
 }
 

@@ -24,7 +24,8 @@ public:
     double Fraction() const;
 
     /// Seconds until the last verdict at the pace of the run so far, rounded up. Nothing before the first
-    /// verdict and between runs.
+    /// verdict, between runs, and once that time has passed without another verdict: what is left then are
+    /// sites that hang, which follow no pace.
     std::optional<int> SecondsLeft() const;
 
 signals:
@@ -38,7 +39,8 @@ private:
 
     const RunResult &result;
     const Clock &clock;
-    QTimer later; ///< tells what changed too soon behind the last time
+    QTimer later;   ///< tells what changed too soon behind the last time
+    QTimer overdue; ///< tells that the estimate has not come true
     std::chrono::milliseconds lastChange{0};
 };
 

@@ -28,6 +28,8 @@ TEST_F(RunEstimateTest, TellsTheRestOfTheRunAndNotTooOften) {
         for (const QDeadlineTimer deadline(5s); changes < 2 && !deadline.hasExpired();)
             QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
         EXPECT_EQ(changes, 2) << "the last of a burst is told, too";
+        clock.Advance(2600ms);
+        EXPECT_FALSE(estimate.SecondsLeft()) << "the sites that are left hang";
         Run().cmdCancel_Click();
     });
     PressSubmit();

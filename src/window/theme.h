@@ -20,10 +20,8 @@ public:
     /// of the palette that Qt took from the desktop. `application` must outlive this.
     Theme(QApplication &application, ColourScheme colourScheme);
 
-private slots:
-    void PortalSettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
-
 private:
+    Q_SLOT void PortalSettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
     void FollowPortal();
     void Wear(bool dark);
 

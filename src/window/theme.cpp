@@ -69,8 +69,11 @@ void Theme::FollowPortal() {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
+    // The bus knows a slot by its signature without blanks.
+    // clang-format off
     bus.connect(portalService, portalPath, portalSettings, u"SettingChanged"_s, this,
-                SLOT(PortalSettingChanged(QString, QString, QDBusVariant)));
+                SLOT(PortalSettingChanged(QString,QString,QDBusVariant)));
+    // clang-format on
     QDBusMessage question =
         QDBusMessage::createMethodCall(portalService, portalPath, portalSettings, u"Read"_s);
     question << appearance << schemeKey;

@@ -69,7 +69,9 @@ void Theme::FollowPortal() {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    // The bus knows a slot by its signature without blanks.
+    // The bus finds the slot's parameters by the names of their types, and this one has none before it is
+    // registered: the connection would fail. A slot is known by its signature without blanks.
+    qRegisterMetaType<QDBusVariant>("QDBusVariant");
     // clang-format off
     bus.connect(portalService, portalPath, portalSettings, u"SettingChanged"_s, this,
                 SLOT(PortalSettingChanged(QString,QString,QDBusVariant)));

@@ -1,18 +1,8 @@
 // Times what a person waits for in the project's file: collecting the requests of a run, saving and loading,
 // and the page of ready-filled forms, beside the cost of one flush of the same disk.
 
-#include "tests/fakes/fake_clipboard.h"
-#include "tests/fakes/fake_clock.h"
-#include "tests/fakes/fake_dialogs.h"
-#include "tests/fakes/fake_document_opener.h"
-#include "tests/fakes/fake_forms.h"
-#include "tests/fakes/fake_http_client.h"
-#include "tests/fakes/fake_printer.h"
-#include "tests/fakes/fake_settings_store.h"
-#include "tests/fakes/scripted_event_queue.h"
+#include "tests/fakes/fake_doors.h"
 #include "tests/fakes/site_database_builder.h"
-
-#include "shell/program.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
@@ -34,24 +24,14 @@ public:
                 .Query(u"\"url=\" & txtUrlText & \"&title=\" & txtTitleText & \"&text=\" & txtDescText & "
                        u"\"&keys=\" & AllKeywords & \"&mail=\" & txtEmailText & \"&name=\" & txtNameText"_s);
         master.Write(folder.filePath(u"ng.dll"_s));
-        program =
-            std::make_unique<Program>(Doors{queue, clock, dialogs, forms, documents, printer, clipboard,
-                                            settings, [] { return std::make_unique<FakeHttpClient>(); }},
-                                      folder.path());
+        program = std::make_unique<Program>(doors.All(), folder.path());
         program->files.CreateProject(folder.filePath(u"bench.rts"_s));
         program->project.record.txtDesc.SetText(u"A text of a usual length, with marks & blanks."_s);
         program->project.lists.List1.SetAllSelected(true);
     }
 
     QTemporaryDir folder{u"./bench-XXXXXX"_s};
-    FakeClock clock;
-    ScriptedEventQueue queue{clock};
-    FakeDialogs dialogs;
-    FakeForms forms;
-    FakeDocumentOpener documents;
-    FakePrinter printer;
-    FakeClipboard clipboard;
-    FakeSettingsStore settings;
+    FakeDoors doors;
     std::unique_ptr<Program> program;
 };
 

@@ -1,15 +1,7 @@
 #include "fuzz/promise.h"
 #include "project/site_source_build.h"
-#include "shell/program.h"
 #include "support/whole_file.h"
-#include "tests/fakes/fake_clipboard.h"
-#include "tests/fakes/fake_dialogs.h"
-#include "tests/fakes/fake_document_opener.h"
-#include "tests/fakes/fake_forms.h"
-#include "tests/fakes/fake_http_client.h"
-#include "tests/fakes/fake_printer.h"
-#include "tests/fakes/fake_settings_store.h"
-#include "tests/fakes/scripted_event_queue.h"
+#include "tests/fakes/fake_doors.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -34,17 +26,8 @@ public:
 
     QTemporaryDir folder;
     const QString file = folder.filePath(u"p.rts"_s);
-    FakeClock clock;
-    ScriptedEventQueue queue{clock};
-    FakeDialogs dialogs;
-    FakeForms forms;
-    FakeDocumentOpener documents;
-    FakePrinter printer;
-    FakeClipboard clipboard;
-    FakeSettingsStore settings;
-    Program program{{queue, clock, dialogs, forms, documents, printer, clipboard, settings,
-                     [] { return std::make_unique<FakeHttpClient>(); }},
-                    folder.path()};
+    FakeDoors doors;
+    Program program{doors.All(), folder.path()};
 };
 
 } // namespace

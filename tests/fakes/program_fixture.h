@@ -1,14 +1,6 @@
 #pragma once
 
-#include "shell/program.h"
-#include "tests/fakes/fake_clipboard.h"
-#include "tests/fakes/fake_dialogs.h"
-#include "tests/fakes/fake_document_opener.h"
-#include "tests/fakes/fake_forms.h"
-#include "tests/fakes/fake_http_client.h"
-#include "tests/fakes/fake_printer.h"
-#include "tests/fakes/fake_settings_store.h"
-#include "tests/fakes/scripted_event_queue.h"
+#include "tests/fakes/fake_doors.h"
 #include "tests/fakes/site_database_builder.h"
 #include "tests/qt_printing.h"
 
@@ -18,7 +10,7 @@
 namespace lanterra {
 
 /// A whole program on fakes, in a folder of its own.
-class ProgramFixture : public testing::Test {
+class ProgramFixture : public testing::Test, protected FakeDoors {
 protected:
     /// A master of these sites, and a project made from it, loaded, filled in and with all sites selected.
     void GivenSites(const QStringList &names) {
@@ -37,11 +29,8 @@ protected:
 
     /// The program again, as after a new start, on the same folder and the same settings.
     void StartProgram() {
-        clients.clear();
         program.reset();
-        program = std::make_unique<Program>(Doors{queue, clock, dialogs, forms, documents, printer, clipboard,
-                                                  settings, [this] { return MakeClient(); }},
-                                            home.path());
+        program = std::make_unique<Program>(All(), home.path());
         program->frmSettings.Load();
         forms.onMenu[PopupMenu::Submit] = [this] { program->run.mnuAuto_Click(); };
     }
@@ -72,22 +61,7 @@ protected:
     }
 
     QTemporaryDir home;
-    FakeClock clock;
-    ScriptedEventQueue queue{clock};
-    FakeDialogs dialogs;
-    FakeForms forms;
-    FakeDocumentOpener documents;
-    FakePrinter printer;
-    FakeClipboard clipboard;
-    FakeSettingsStore settings;
-    std::vector<FakeHttpClient *> clients;
     std::unique_ptr<Program> program;
-
-    std::unique_ptr<HttpClient> MakeClient() {
-        auto client = std::make_unique<FakeHttpClient>();
-        clients.push_back(client.get());
-        return client;
-    }
 };
 
 } // namespace lanterra

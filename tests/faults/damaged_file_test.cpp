@@ -61,7 +61,7 @@ TEST_F(DamagedFileTest, AProjectWithChangedBytesIsRefusedOrConsistent) {
         faulted->program.project.record.txtTitle.SetText(u"Saved %1"_s.arg(round));
         const bool saved = Do(u"save"_s).isEmpty();
         faulted->program.project.database.Unbind();
-        const bool compacted = CompactThroughBackup(Site(), Site() + u".bak"_s, SiteSchema());
+        const bool compacted = CompactThroughBackup(Site(), Site() + u".bak"_s, SiteSchema()).isEmpty();
         ASSERT_NE(saved, refused) << round;
         ASSERT_TRUE(compacted || refused) << round;
         if (saved)
@@ -97,8 +97,8 @@ TEST_F(DamagedFileTest, ADamagedSettingsFileIsReadAsFarAsItGoesAndCanBeWritten) 
         Overwrite(path, round < damages ? Damaged(sound) : sound.first(round - damages));
         faulted->program.recentFile.Load();
         faulted->program.frmSettings.Load();
-        ASSERT_TRUE(faulted->settings.Set(u"Settings"_s, u"PSN"_s, u"after"_s));
-        ASSERT_EQ(faulted->settings.Get(u"Settings"_s, u"PSN"_s), u"after"_s);
+        ASSERT_TRUE(faulted->iniFile.Set(u"Settings"_s, u"PSN"_s, u"after"_s));
+        ASSERT_EQ(faulted->iniFile.Get(u"Settings"_s, u"PSN"_s), u"after"_s);
     }
 }
 

@@ -1,14 +1,7 @@
 #pragma once
 
 #include "platform/ini_settings_store.h"
-#include "shell/program.h"
-#include "tests/fakes/fake_clipboard.h"
-#include "tests/fakes/fake_dialogs.h"
-#include "tests/fakes/fake_document_opener.h"
-#include "tests/fakes/fake_forms.h"
-#include "tests/fakes/fake_http_client.h"
-#include "tests/fakes/fake_printer.h"
-#include "tests/fakes/scripted_event_queue.h"
+#include "tests/fakes/fake_doors.h"
 
 #include <QDir>
 #include <functional>
@@ -17,7 +10,7 @@
 namespace lanterra {
 
 /// A whole program whose files and settings are real and in one folder, so that disk faults can meet it.
-class FaultedProgram {
+class FaultedProgram : public FakeDoors {
 public:
     explicit FaultedProgram(const QString &homeFolder) : home(homeFolder) {}
 
@@ -31,16 +24,8 @@ public:
     QString Told();
 
     QDir home;
-    FakeClock clock;
-    ScriptedEventQueue queue{clock};
-    FakeDialogs dialogs;
-    FakeForms forms;
-    FakeDocumentOpener documents;
-    FakePrinter printer;
-    FakeClipboard clipboard;
-    IniSettingsStore settings{home.filePath(QStringLiteral("config/Lanterra.ini"))};
-    Program program{{queue, clock, dialogs, forms, documents, printer, clipboard, settings,
-                     [] { return std::make_unique<FakeHttpClient>(); }},
+    IniSettingsStore iniFile{home.filePath(QStringLiteral("config/Lanterra.ini"))};
+    Program program{With(queue, clock, iniFile, [] { return std::make_unique<FakeHttpClient>(); }),
                     home.path()};
 };
 

@@ -1,8 +1,8 @@
 #include "settings/document_viewer.h"
 #include "settings/web_browser_form.h"
 #include "tests/fakes/fake_dialogs.h"
-#include "tests/fakes/fake_document_opener.h"
 #include "tests/fakes/fake_settings_store.h"
+#include "tests/fakes/recording_doors.h"
 #include "tests/qt_printing.h"
 
 #include <QFile>

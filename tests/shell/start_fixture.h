@@ -24,15 +24,12 @@ protected:
             program->frmProjectDialog.Load();
             program->frmProjectDialog.cmdOK_Click();
         };
-        forms.onMenu[PopupMenu::Submit] = [this] { program->run.mnuAuto_Click(); };
         MakeProgram();
     }
 
     void MakeProgram() {
-        clients.clear();
-        program = std::make_unique<Program>(Doors{queue, clock, dialogs, forms, documents, printer, clipboard,
-                                                  settings, [this] { return MakeClient(); }},
-                                            home.path());
+        forms.onMenu[PopupMenu::Submit] = [this] { program->run.mnuAuto_Click(); };
+        program = std::make_unique<Program>(All(), home.path());
         Follow(program->frame, &MainFrame::PointerChanged, "pointer");
         Follow(program->frame, &MainFrame::PaneShown, "pane");
         Follow(program->frame, &MainFrame::VisibleChanged, "visible");

@@ -29,11 +29,11 @@ bool AnswersAtOnce(const QJsonObject &habits) {
 bool SoakedProgram::Start() {
     if (!server.Start(0) || !BuildMaster())
         return false;
-    program = std::make_unique<Program>(Doors{queue, clock, dialogs, forms, documents, printer, clipboard,
-                                              settings, [] { return std::make_unique<SocketHttpClient>(); }},
-                                        home.path());
+    program = std::make_unique<Program>(
+        doors.With(queue, clock, doors.settings, [] { return std::make_unique<SocketHttpClient>(); }),
+        home.path());
     program->frmSettings.Load();
-    forms.onMenu[PopupMenu::Submit] = [this] { program->run.mnuAuto_Click(); };
+    doors.forms.onMenu[PopupMenu::Submit] = [this] { program->run.mnuAuto_Click(); };
     if (!program->startProject.CreateProject(u"Soak"_s))
         return false;
     program->files.LoadProject();
@@ -62,11 +62,11 @@ QString SoakedProgram::Run() {
     words += result.notStored;
     if (result.SuccessfulCount() + result.FailedCount() != program->project.lists.List1.SelCount())
         words += u"sites without a verdict"_s;
-    for (const MessageBox &box : dialogs.boxes)
+    for (const MessageBox &box : doors.dialogs.boxes)
         words += box.text;
-    dialogs.answers.push_back(BoxAnswer::Yes);
+    doors.dialogs.answers.push_back(BoxAnswer::Yes);
     program->statistics.Command10_Click();
-    dialogs.boxes.clear();
+    doors.dialogs.boxes.clear();
     return words.join(u", "_s);
 }
 

@@ -3,13 +3,7 @@
 #include "park/park_server.h"
 #include "platform/qt_event_queue.h"
 #include "platform/system_clock.h"
-#include "shell/program.h"
-#include "tests/fakes/fake_clipboard.h"
-#include "tests/fakes/fake_dialogs.h"
-#include "tests/fakes/fake_document_opener.h"
-#include "tests/fakes/fake_forms.h"
-#include "tests/fakes/fake_printer.h"
-#include "tests/fakes/fake_settings_store.h"
+#include "tests/fakes/fake_doors.h"
 
 #include <QTemporaryDir>
 
@@ -34,12 +28,7 @@ private:
     ParkServer server{0, log};
     QtEventQueue queue;
     SystemClock clock;
-    FakeDialogs dialogs;
-    FakeForms forms;
-    FakeDocumentOpener documents;
-    FakePrinter printer;
-    FakeClipboard clipboard;
-    FakeSettingsStore settings;
+    FakeDoors doors; ///< all but queue, clock and clients
     std::unique_ptr<Program> program;
 };
 

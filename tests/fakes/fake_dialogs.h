@@ -2,9 +2,11 @@
 
 #include "ports/dialogs.h"
 
+#include <QStringList>
 #include <deque>
 #include <functional>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 namespace lanterra {
@@ -28,6 +30,15 @@ public:
         return Next(files, dialog.filter);
     }
     std::optional<QString> SaveFile(const FileDialog &dialog) override { return OpenFile(dialog); }
+
+    /// The boxes since the last call, a line each: "TITLE: TEXT", with " | DETAIL" behind it if there is one.
+    QString Told() {
+        QStringList told;
+        for (const MessageBox &box : std::exchange(boxes, {}))
+            told << box.title + QStringLiteral(": ") + box.text +
+                        (box.detail.isEmpty() ? QString() : QStringLiteral(" | ") + box.detail);
+        return told.join(u'\n');
+    }
 
     std::deque<BoxAnswer> answers;
     std::deque<QString> lines;

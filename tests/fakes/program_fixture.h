@@ -5,6 +5,7 @@
 #include "tests/qt_printing.h"
 
 #include <QTemporaryDir>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace lanterra {
@@ -54,6 +55,18 @@ protected:
 
     /// The client of a channel, 1 to 5. The one of the hit counter is 6.
     FakeHttpClient &Client(int number) { return *clients.at(static_cast<std::size_t>(number - 1)); }
+
+    /// The client to which this applies.
+    template <class Condition>
+    FakeHttpClient &ClientThat(Condition applies) {
+        return **std::find_if(clients.begin(), clients.end(), applies);
+    }
+
+    QString InProjects(const QString &file) const {
+        return home.filePath(QStringLiteral("Projects/") + file);
+    }
+    ProjectRecord &Record() { return program->project.record; }
+    ListBox &List1() { return program->project.lists.List1; }
 
     QString ReadPage(const QString &site) const {
         QFile file(program->result.reportFolder + site + QStringLiteral(".htm"));

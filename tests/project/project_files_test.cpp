@@ -1,5 +1,4 @@
 #include "tests/fakes/program_fixture.h"
-#include "tests/file_bytes.h"
 
 #include <QDir>
 
@@ -12,13 +11,11 @@ class ProjectFilesTest : public ProgramFixture {
 protected:
     ProjectFilesTest() { GivenSites({u"Alta"_s, u"Beta"_s}); }
 
-    QString InProjects(const QString &file) const { return home.filePath(u"Projects/"_s + file); }
     void SaveAs(const QString &file) {
         dialogs.files = {InProjects(file)};
         Files().mnuFileSaveAs_Click();
     }
     ProjectFiles &Files() { return program->files; }
-    ProjectRecord &Record() { return program->project.record; }
     ProjectPath &Path() { return program->project.path; }
 };
 
@@ -95,43 +92,6 @@ TEST_F(ProjectFilesTest, OpenAndRecentFiles) {
     EXPECT_EQ(Path().Base, InProjects(u"Project1.rts"_s));
     EXPECT_FALSE(Files().SaveProject(QString()).stored);
     EXPECT_FALSE(QFile::exists(InProjects(u"Project1.rts"_s))); // nothing creates it
-}
-
-TEST_F(ProjectFilesTest, AFileWithoutSitesIsRefusedAndStaysAsItIs) {
-    QFile bad(InProjects(u"bad.rts"_s));
-    ASSERT_TRUE(bad.open(QIODevice::WriteOnly) && bad.write("this is no database") > 0);
-    bad.close();
-    Record().txtTitle.SetText(u"Typed"_s);
-    Files().OpenProject(bad.fileName());
-    ASSERT_EQ(dialogs.boxes.size(), 1U);
-    EXPECT_EQ(dialogs.boxes[0].text, u"Error! Invalid project file. "_s);
-    EXPECT_EQ(dialogs.boxes[0].title, u"Error"_s);
-    EXPECT_EQ(Record().txtTitle.Text(), u"Typed"_s);
-    EXPECT_EQ(program->project.lists.List1.ListCount(), 0);
-    Files().mnuFileSave_Click();
-    EXPECT_EQ(BytesOf(bad.fileName()), "this is no database");
-}
-
-class CountingImport : public SiteDatabaseImport {
-public:
-    bool ImportSiteDatabase() override {
-        ++calls;
-        return true;
-    }
-    int calls = 0;
-};
-
-TEST_F(ProjectFilesTest, OnlyAGreaterMasterVersionStartsTheImport) {
-    for (const int version : {1, 0, 2}) {
-        CountingImport import;
-        Files().SetImport(&import);
-        program->project.database.Unbind();
-        ASSERT_TRUE(SiteDatabaseBuilder().Version(version).Site(u"New"_s).Write(Path().MasterFile()));
-        Files().OpenProject(InProjects(u"Project1.rts"_s));
-        EXPECT_EQ(import.calls, version == 2 ? 1 : 0) << version;
-        Files().SetImport(nullptr);
-    }
-    EXPECT_EQ(program->project.lists.List1.ListCount(), 2); // the import took the place of the reading
 }
 
 TEST_F(ProjectFilesTest, AsksToSaveOnlyAProjectWithoutAFile) {

@@ -70,6 +70,13 @@ TEST_F(SiteDatabaseUpdateTest, SelectsNothingAtTheStartOfTheProgramWhenTheListIs
     EXPECT_EQ(Stored(), u"Alta,,2,New,,,Newer,,,New,Top Arts,Stored,Alta,"_s);
 }
 
+TEST_F(SiteDatabaseUpdateTest, AnOlderMasterIsNotTakenOver) {
+    const QString before = Stored();
+    GivenMaster(SiteDatabaseBuilder().Version(0).Site(u"New"_s));
+    program->files.OpenProject(file);
+    EXPECT_EQ(Stored(), before);
+}
+
 TEST_F(SiteDatabaseUpdateTest, AnInterruptedImportLeavesTheOldRowsAndTellsWhy) {
     const QString before = Stored();
     const auto anotherProgramSaves = [&] {

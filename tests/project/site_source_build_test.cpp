@@ -20,7 +20,9 @@ class SiteSourceBuildTest : public testing::Test {
 protected:
     SiteSourceBuildTest() {
         builder.Version(3).Site(u"Gamma"_s).Site(u"Alta"_s, u"directory"_s);
-        builder.Query(u"\"c=\" & CCCAAATTT"_s).Categories({u"Other"_s, u"Arts"_s, u"News"_s});
+        builder.Query(u"\"c=\" & CCCAAATTT"_s).Categories({u"Other"_s, u"Arts [old], new"_s, u"\u65E5"_s});
+        const QString marked = u"\uFEFF O'Mallory & S\u00F6hne"_s; // a byte order mark in front of it
+        builder.Site(marked, u"directory"_s).Query(u"\"c=\" & CCCAAATTT"_s).Categories({marked, u"Arts"_s});
         WriteWholeFile(source, SiteSourceText(builder.Source()).toUtf8());
         builder.Write(database);
     }
@@ -44,7 +46,7 @@ TEST_F(SiteSourceBuildTest, ABuildThatFailsLeavesWhatWasThere) {
     EXPECT_EQ(ReadSiteSource(source).source, builder.Source());
     WriteWholeFile(source, SiteSourceText(SiteDatabaseBuilder(builder).Site(u"Gamma"_s).Source()).toUtf8());
     EXPECT_EQ(BuildSiteFile(source, database).value(0).Text(),
-              source + u":3: The name stands in the list twice: Gamma"_s);
+              source + u":4: The name stands in the list twice: Gamma"_s);
     EXPECT_EQ(ReadSiteDatabase(database).source, builder.Source());
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList({u"ng.dll"_s, u"sites.json"_s}));
 }
@@ -55,8 +57,8 @@ TEST_F(SiteSourceBuildTest, RowsAreStoredAsProjectsReadThem) {
     EXPECT_EQ(control.Number(u"Version"_s), 3);
     EXPECT_FALSE(control.Boolean(u"Selected"_s));
     Bind(u"Categories"_s);
-    EXPECT_EQ(control.RowCount(), 1);
-    EXPECT_EQ(control.Text(u"Categories"_s), u"Other\r\nArts\r\nNews"_s);
+    EXPECT_EQ(control.RowCount(), 2);
+    EXPECT_EQ(control.Text(u"Categories"_s), u"Other\r\nArts [old], new\r\n\u65E5"_s);
     // A NULL would count as chosen when a run looks for directories without a category.
     EXPECT_FALSE(control.IsNull(u"Selected"_s));
     EXPECT_EQ(control.Text(u"Selected"_s), QString());
@@ -72,20 +74,8 @@ TEST_F(SiteSourceBuildTest, CategoriesBelongToOneKnownSite) {
     control.Close();
     const QList<SiteFinding> findings = ReadSiteDatabase(database).findings;
     ASSERT_EQ(findings.size(), 2);
-    EXPECT_EQ(findings[0].Text(), database + u":2: Categories of an unknown site: Nobody"_s);
-    EXPECT_EQ(findings[1].Text(), database + u":3: Categories for the second time: Alta"_s);
-}
-
-TEST_F(SiteSourceBuildTest, OnlyTextsOfTheProjectAreHeldTo255Characters) {
-    Bind(u"Stats"_s);
-    control.AddNew();
-    EXPECT_TRUE(control.SetText(u"Successful Submissions"_s, QString(70000, u'x')));
-    Bind(u"Project"_s);
-    control.AddNew();
-    for (const QString &field : {u"txtURL"_s, u"txtKey6"_s, u"Combo2"_s, u"txttrazim"_s}) {
-        EXPECT_TRUE(control.SetText(field, QString(255, u'x')));
-        EXPECT_FALSE(control.SetText(field, QString(256, u'x')));
-    }
+    EXPECT_EQ(findings[0].Text(), database + u":3: Categories of an unknown site: Nobody"_s);
+    EXPECT_EQ(findings[1].Text(), database + u":4: Categories for the second time: Alta"_s);
 }
 
 } // namespace

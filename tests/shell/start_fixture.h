@@ -44,11 +44,10 @@ protected:
         settings.values.clear();
         dialogs.lines = {name};
         EXPECT_TRUE(program->startUp.Run(QString()));
-        FillIn(program->project.record);
-        program->project.lists.List1.SetSelected(0, true);
+        FillIn(Record());
+        List1().SetSelected(0, true);
         trace.clear();
     }
-    QString InProjects(const QString &file) const { return home.filePath(u"Projects/"_s + file); }
     /// What was done since the last call.
     QString Traced() { return std::exchange(trace, {}).join(u' '); }
 

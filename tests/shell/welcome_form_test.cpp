@@ -15,8 +15,7 @@ TEST_F(WelcomeFormTest, SubscribesTheAddressAsItIsTypedAndTellsTheAnswer) {
         program->frmWelcome.Text2.SetText(address);
         program->frmWelcome.SSCommand1_Click();
     }
-    FakeHttpClient &client =
-        **std::find_if(clients.begin(), clients.end(), [](auto *each) { return each->connects == 1; });
+    FakeHttpClient &client = ClientThat([](auto *each) { return each->connects == 1; });
     emit client.Connected();
     EXPECT_EQ(client.RequestHeaders(),
               QByteArray("Content-Type: application/x-www-form-urlencoded\r\nContent-Length: 47\r\n\r\n"
@@ -29,13 +28,10 @@ TEST_F(WelcomeFormTest, SubscribesTheAddressAsItIsTypedAndTellsTheAnswer) {
     }
     emit client.Error(61);
     emit client.Error(61); // told once
-    QStringList told;
-    for (const MessageBox &box : dialogs.boxes)
-        told.append(box.text);
-    EXPECT_EQ(told,
-              (QStringList{u"Please enter your full e-mail address! "_s,
-                           u"Thank you! You have been added to the mailing list "_s,
-                           u"Error! Your email is already on the list "_s, u"Error! "_s, u"Error! "_s}));
+    EXPECT_EQ(dialogs.Told(), u"Error: Please enter your full e-mail address! \n"
+                              "Zephyrine Lanterra: Thank you! You have been added to the mailing list \n"
+                              "Error: Error! Your email is already on the list \n"
+                              "Error: Error! \nError: Error! "_s);
 }
 
 TEST_F(WelcomeFormTest, ItsBoxIsUncheckedAtEachLoadAndBringsItBackHoweverItIsClosed) {

@@ -52,8 +52,6 @@ protected:
         return Result().outcomes.at(static_cast<std::size_t>(site));
     }
     SubmissionRun &Run() { return program->run; }
-    ProjectRecord &Record() { return program->project.record; }
-    ListBox &List1() { return program->project.lists.List1; }
 
     static QStringList Numbered(int count) {
         QStringList names;

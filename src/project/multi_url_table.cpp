@@ -1,6 +1,14 @@
 #include "project/multi_url_table.h"
 
+#include <algorithm>
+
 namespace lanterra {
+
+namespace {
+
+constexpr qsizetype longestIgnored = 10; ///< characters that make no address yet
+
+} // namespace
 
 bool MultiUrlTable::Holds(int slot, int column) {
     return slot >= 0 && slot < slotCount && column >= 0 && column < columnCount;
@@ -17,11 +25,10 @@ void MultiUrlTable::SetCell(int slot, int column, const QString &text) {
         cells[static_cast<std::size_t>(slot)][static_cast<std::size_t>(column)] = text;
 }
 
-int MultiUrlTable::LastUsedSlot() const {
-    int last = slotCount - 1;
-    while (last > 0 && Cell(last, urlColumn).isEmpty())
-        --last;
-    return last;
+int MultiUrlTable::UrlCount() const {
+    return static_cast<int>(std::count_if(cells.begin(), cells.end(), [](const auto &slot) {
+        return slot[urlColumn].size() > longestIgnored;
+    }));
 }
 
 void MultiUrlTable::EraseUrls() {

@@ -21,8 +21,8 @@ public:
     /// A cell outside the table is passed over, so an eleventh URL is dropped and not refused.
     void SetCell(int slot, int column, const QString &text);
 
-    /// The highest slot that has an address, 0 if none has.
-    int LastUsedSlot() const;
+    /// The number of slots whose URL has more than ten characters, wherever they stand.
+    int UrlCount() const;
 
     /// Empties the URLs of all slots and keeps their other texts.
     void EraseUrls();

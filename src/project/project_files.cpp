@@ -281,14 +281,15 @@ void ProjectFiles::LoadProject() {
     parts.frame.SetPointer(MousePointer::Default);
 }
 
-// Every slot with an address counts, however short it is: what is left out here is lost at the next save.
+// Counts the addresses as the form for several URLs does: ten characters or fewer are none, such as "http://"
+// in an emptied box. The slots stay where they are, so behind a gap the last ones fall out of the count.
 void ProjectFiles::ShowLoadedUrls() {
     ProjectRecord &record = parts.project.record;
     record.HScroll1.SetValue(0);
     record.chkMultiSameDesc.SetEnabled(record.MultiUrlMode());
     if (record.MultiUrlMode()) {
         record.ShowSlot(0);
-        record.MultiUrlUpper = record.multiUrlTable.LastUsedSlot();
+        record.MultiUrlUpper = record.multiUrlTable.UrlCount() - 1;
     }
     record.HScroll1.SetMaximum(record.MultiUrlUpper);
 }

@@ -43,7 +43,6 @@ protected:
             letters += Record().multiUrlTable.Cell(slot, MultiUrlTable::urlColumn).mid(7, 1);
         return letters;
     }
-    ProjectRecord &Record() { return program->project.record; }
 };
 
 TEST_F(ProjectRowsTest, TheFirstSaveOfSeveralUrlsHoldsTheFirstOneTwice) {
@@ -76,6 +75,11 @@ TEST_F(ProjectRowsTest, LaterSavesHoldEachUrlOnceAndLeavingTheModeKeepsThem) {
     Reload();
     EXPECT_TRUE(Record().MultiUrlMode());
     EXPECT_EQ(LoadedUrls(), u"cde"_s);
+
+    Record().multiUrlTable.SetCell(1, MultiUrlTable::urlColumn, u"http://d.e"_s);
+    Save();
+    Reload();
+    EXPECT_EQ(Record().MultiUrlUpper, 1) << "ten characters are no address, so the last one isn't counted";
 }
 
 TEST_F(ProjectRowsTest, CutsMostTextsAndRefusesLongAddressAndKeywordsAlone) {

@@ -58,8 +58,8 @@ bool DatabaseFile::ReadTables(const DatabaseSchema &wanted) {
     QString refusal = ReadSchema(*connection, schema);
     if (refusal.isEmpty() && !wanted.isEmpty())
         refusal = SchemaDifference(schema, wanted);
-    if (refusal.isEmpty() && !PassesIntegrityCheck(*connection))
-        refusal = connection->Failure().isEmpty() ? u"The database is damaged."_s : connection->Failure();
+    if (refusal.isEmpty())
+        refusal = IntegrityRefusal(*connection);
     return refusal.isEmpty() || Fail(refusal);
 }
 

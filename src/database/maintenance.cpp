@@ -66,7 +66,7 @@ bool IsSound(const QString &path) {
         return false;
     SqliteConnection connection(path, SqliteConnection::Mode::ReadWrite);
     DatabaseSchema schema;
-    return ReadSchema(connection, schema).isEmpty() && PassesIntegrityCheck(connection);
+    return ReadSchema(connection, schema).isEmpty() && IntegrityRefusal(connection).isEmpty();
 }
 
 bool CopyDeclarations(SqliteConnection &from, SqliteConnection &to, const QString &type) {
@@ -130,11 +130,14 @@ bool Rebuild(const QString &path, const QString &scratchPath) {
            to.Run(u"COMMIT"_s);
 }
 
-bool Compact(SqliteConnection &connection, const QString &destination) {
+/// Returns why the copy could not be made, with what stood at `destination` still there.
+QString Compact(SqliteConnection &connection, const QString &destination) {
+    if (QString refusal = IntegrityRefusal(connection); !refusal.isEmpty())
+        return refusal;
     ScratchFile scratch(destination);
-    DatabaseSchema schema;
-    return ReadSchema(connection, schema).isEmpty() && PassesIntegrityCheck(connection) &&
-           connection.Run(u"VACUUM INTO ?"_s, {scratch.Path()}) && scratch.TakePlace();
+    if (!connection.Run(u"VACUUM INTO ?"_s, {scratch.Path()}))
+        return connection.Failure();
+    return scratch.TakePlace() ? QString() : notWritten;
 }
 
 /// Copies the bytes of a database while its lock keeps others from writing. Returns why that failed.
@@ -145,8 +148,8 @@ QString CopyWhileLocked(const QString &source, const QString &copy) {
         return connection.Failure();
     if (QString refusal = ReadSchema(connection, schema); !refusal.isEmpty())
         return refusal;
-    if (!PassesIntegrityCheck(connection))
-        return connection.Failure().isEmpty() ? u"The database is damaged."_s : connection.Failure();
+    if (QString refusal = IntegrityRefusal(connection); !refusal.isEmpty())
+        return refusal;
     return CopyWholeFile(source, copy) ? QString() : notWritten;
 }
 
@@ -163,26 +166,30 @@ bool CreateDatabase(const QString &path, const QStringList &statements, const Da
     return (!fill || fill(scratch.Path())) && scratch.TakePlace();
 }
 
-bool CompactDatabase(const QString &source, const QString &destination) {
-    const QString path = QFileInfo(source).canonicalFilePath();
-    if (!SqliteFileRefusal(path).isEmpty())
-        return false;
-    SqliteConnection connection(path, SqliteConnection::Mode::ReadWrite);
-    return Compact(connection, destination);
-}
-
-bool CompactThroughBackup(const QString &path, const QString &backup, const DatabaseSchema &wanted) {
+QString CompactThroughBackup(const QString &path, const QString &backup, const DatabaseSchema &wanted) {
     const QString canonical = QFileInfo(path).canonicalFilePath();
-    if (!SqliteFileRefusal(canonical).isEmpty())
-        return false;
+    if (QString refusal = SqliteFileRefusal(canonical); !refusal.isEmpty())
+        return refusal;
     SqliteConnection connection(canonical, SqliteConnection::Mode::ReadWrite);
     const std::optional<qint64> version = DataVersion(connection);
+    if (!version)
+        return connection.Failure();
     DatabaseSchema schema;
-    if (!ReadSchema(connection, schema).isEmpty() || !SchemaDifference(schema, wanted).isEmpty())
-        return false;
+    if (QString refusal = ReadSchema(connection, schema); !refusal.isEmpty())
+        return refusal;
+    if (QString difference = SchemaDifference(schema, wanted); !difference.isEmpty())
+        return difference;
+    if (QString failure = Compact(connection, backup); !failure.isEmpty())
+        return failure;
+    // What takes the place of a project must be sound, also on a disk that keeps its bytes badly.
+    if (!RepairDatabase(backup))
+        return u"The compacted copy is damaged."_s;
     // Whoever waits for the lock finds the file replaced, and is told so instead of writing into the old one.
-    return version && Compact(connection, backup) && connection.Run(u"BEGIN EXCLUSIVE"_s) &&
-           DataVersion(connection) == version && CopyWholeFile(backup, canonical);
+    if (!connection.Run(u"BEGIN EXCLUSIVE"_s))
+        return connection.Failure();
+    if (DataVersion(connection) != version)
+        return u"Another program has changed the file meanwhile."_s;
+    return CopyWholeFile(backup, canonical) ? QString() : notWritten;
 }
 
 QString CopyDatabase(const QString &source, const QString &destination, const DatabaseChange &change) {

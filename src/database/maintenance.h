@@ -16,15 +16,11 @@ using DatabaseFiller = std::function<bool(const QString &path)>;
 /// false, or if the file could not be written.
 bool CreateDatabase(const QString &path, const QStringList &statements, const DatabaseFiller &fill = {});
 
-/// Writes a compacted copy of a closed database under a new name, whole or not at all, replacing what is
-/// there. False if the source is no sound database or the copy could not be written.
-bool CompactDatabase(const QString &source, const QString &destination);
-
-/// Replaces a closed database by its compacted copy and leaves that copy beside it as `backup`. False, with
-/// the database as it was, if it isn't sound or holds other tables than the wanted ones, if either file could
-/// not be written, or if another program uses or changes the database. An unsound one never takes the place
-/// of the backup.
-bool CompactThroughBackup(const QString &path, const QString &backup, const DatabaseSchema &wanted);
+/// Replaces a closed database by its compacted copy and leaves that copy beside it as `backup`. Returns why
+/// that failed, one sentence, with the database as it was; else an empty text. Refused are a database that
+/// isn't sound or holds other tables than the wanted ones, and one that another program uses or changes. An
+/// unsound one never takes the place of the backup.
+QString CompactThroughBackup(const QString &path, const QString &backup, const DatabaseSchema &wanted);
 
 /// Changes the closed database of this path. Returns why that failed, one sentence, else an empty text.
 using DatabaseChange = std::function<QString(const QString &path)>;

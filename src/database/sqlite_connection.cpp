@@ -137,12 +137,13 @@ bool SqliteConnection::Accept(const QSqlError &error) {
     return failure.isEmpty();
 }
 
-bool PassesIntegrityCheck(SqliteConnection &connection) {
+QString IntegrityRefusal(SqliteConnection &connection) {
     QSqlQuery *query = connection.Execute(u"PRAGMA quick_check(1)"_s);
-    const bool passes = query && connection.Next(*query) && query->value(0).toString() == "ok"_L1;
-    if (query)
-        query->finish();
-    return passes;
+    if (!query || !connection.Next(*query))
+        return connection.Failure();
+    const bool passes = query->value(0).toString() == "ok"_L1;
+    query->finish();
+    return passes ? QString() : u"The database is damaged."_s;
 }
 
 QString QuotedName(const QString &name) { return u'"' + QString(name).replace(u'"', "\"\""_L1) + u'"'; }

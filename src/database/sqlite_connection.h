@@ -50,9 +50,9 @@ private:
     QString failure;
 };
 
-/// Whether every page and row of the database can be read and belongs to one place only. Damage within a
-/// value can't be seen. False also if the file can't be read now; the connection's Failure() then tells why.
-bool PassesIntegrityCheck(SqliteConnection &connection);
+/// Why the database is not sound, or can't be read now, one sentence; empty if every page and row can be read
+/// and belongs to one place only. Damage within a value can't be seen.
+QString IntegrityRefusal(SqliteConnection &connection);
 
 /// The name in double quotes, to stand for a table or field in a statement.
 QString QuotedName(const QString &name);

@@ -1,7 +1,6 @@
 #include "shell/shut_down.h"
 
 #include "database/maintenance.h"
-#include "database/sqlite_file_check.h"
 #include "project/site_schema.h"
 #include "support/file_names.h"
 
@@ -66,15 +65,14 @@ void ShutDown::StoreSameDescription() {
 // the project turns out to be damaged.
 void ShutDown::Compact() {
     const QString &base = parts.project.path.Base;
-    if (!FileExists(base) || CompactThroughBackup(base, base + u".bak"_s, SiteSchema()))
+    if (!FileExists(base))
         return;
-    const QString refusal = SqliteFileRefusal(base);
-    parts.dialogs.Show(
-        {.text = u"The project could not be compacted. It stays as it was saved. "_s,
-         .title = u"Error"_s,
-         .icon = BoxIcon::Critical,
-         .detail = refusal.isEmpty() ? u"Another program uses it, it is damaged, or the disk takes nothing."_s
-                                     : refusal});
+    const QString failure = CompactThroughBackup(base, base + u".bak"_s, SiteSchema());
+    if (!failure.isEmpty())
+        parts.dialogs.Show({.text = u"The project could not be compacted. It stays as it was saved. "_s,
+                            .title = u"Error"_s,
+                            .icon = BoxIcon::Critical,
+                            .detail = failure});
 }
 
 } // namespace lanterra

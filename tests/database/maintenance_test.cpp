@@ -15,6 +15,7 @@ protected:
     }
 
     const QString copy = u"copy.bak"_s;
+    const DatabaseSchema wanted = SchemaOf({createSites});
 };
 
 TEST_F(MaintenanceTest, CompactionKeepsRowsAndOrderAndFreesRoom) {
@@ -28,11 +29,12 @@ TEST_F(MaintenanceTest, CompactionKeepsRowsAndOrderAndFreesRoom) {
     }
     const QStringList names = Names(control);
     control.Close();
+    const qint64 before = QFile(Path()).size();
     WriteWholeFile(Path(copy), "what stood there before");
-    EXPECT_TRUE(CompactDatabase(Path(), Path(copy)));
-    EXPECT_LT(QFile(Path(copy)).size(), QFile(Path()).size());
+    EXPECT_EQ(CompactThroughBackup(Path(), Path(copy), wanted), QString());
+    EXPECT_LT(QFile(Path()).size(), before);
+    EXPECT_EQ(BytesOf(Path()), BytesOf(Path(copy)));
     EXPECT_EQ(FilesLeft(), QStringList({copy, u"sites.rts"_s}));
-    CopyWholeFile(Path(copy), Path());
     EXPECT_EQ(StoredNames(), names);
     EXPECT_EQ(names.size(), 100);
 }
@@ -44,11 +46,11 @@ TEST_F(MaintenanceTest, WhatFailsLeavesTheOldCopy) {
     EXPECT_EQ(CopyDatabase(Path(u"missing"_s), Path(copy)), u"There is no such file."_s);
     // A journal beside the old copy would be played back into the new one.
     WriteWholeFile(Path(copy) + u"-journal"_s, "undo");
-    EXPECT_FALSE(CompactDatabase(Path(), Path(copy)));
+    EXPECT_EQ(CompactThroughBackup(Path(), Path(copy), wanted),
+              u"The file could not be written; the disk may be full or write-protected."_s);
     QFile::remove(Path(copy) + u"-journal"_s);
     WriteWholeFile(Path(), "no database at all");
-    EXPECT_FALSE(CompactDatabase(Path(), Path(copy)));
-    EXPECT_FALSE(CompactDatabase(Path(u"missing"_s), Path(copy)));
+    EXPECT_EQ(CompactThroughBackup(Path(), Path(copy), wanted), u"The file is no database."_s);
     EXPECT_EQ(BytesOf(Path(copy)), QByteArray("old"));
     EXPECT_EQ(FilesLeft(), QStringList({copy, u"sites.rts"_s}));
 }
@@ -56,14 +58,11 @@ TEST_F(MaintenanceTest, WhatFailsLeavesTheOldCopy) {
 TEST_F(MaintenanceTest, AnUnsoundOrUnknownDatabaseNeverTakesTheBackupsPlace) {
     GivenNumberedRows(3000);
     control.Close();
-    const DatabaseSchema wanted = SchemaOf({createSites});
-    const QStringList names = StoredNames();
-    EXPECT_TRUE(CompactThroughBackup(Path(), Path(copy), wanted));
-    EXPECT_EQ(StoredNames(), names);
+    WriteWholeFile(Path(copy), "old");
     const QByteArray backup = BytesOf(Path(copy));
-    EXPECT_FALSE(CompactThroughBackup(Path(), Path(copy), {}));
+    EXPECT_EQ(CompactThroughBackup(Path(), Path(copy), {}), u"The database has unexpected tables."_s);
     const QByteArray damaged = Damage(Path(), 16384);
-    EXPECT_FALSE(CompactThroughBackup(Path(), Path(copy), wanted));
+    EXPECT_EQ(CompactThroughBackup(Path(), Path(copy), wanted), u"The database is damaged."_s);
     EXPECT_TRUE(BytesOf(Path(copy)) == backup && BytesOf(Path()) == damaged);
 }
 

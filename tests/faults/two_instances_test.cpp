@@ -47,6 +47,7 @@ TEST_F(TwoInstancesTest, AProjectInUseIsNotOpenedAndTheReasonIsShown) {
     EXPECT_LT(timer.elapsed(), 200);
     EXPECT_EQ(second->Told(), u"Error! Invalid project file. The file is in use by another program."_s);
     EXPECT_EQ(second->program.project.lists.List1.ListCount(), 0);
+    EXPECT_EQ(second->program.project.record.txtTitle.Text(), u"Edited"_s) << "the fields stay";
 }
 
 TEST_F(TwoInstancesTest, WhatOneStoresAfterTheOtherHasEndedReachesTheFile) {
@@ -62,7 +63,8 @@ TEST_F(TwoInstancesTest, CompactionGivesWayToAnotherOnesWrite) {
     SqliteConnection other(Site(), SqliteConnection::Mode::ReadWrite);
     ASSERT_TRUE(other.Run(u"BEGIN IMMEDIATE"_s));
     second->program.project.database.Unbind();
-    EXPECT_FALSE(CompactThroughBackup(Site(), Site() + u".bak"_s, SiteSchema()));
+    EXPECT_EQ(CompactThroughBackup(Site(), Site() + u".bak"_s, SiteSchema()),
+              u"The file is in use by another program."_s);
     ASSERT_TRUE(other.Run(u"UPDATE Project SET txtTitle = 'Other'"_s) && other.Run(u"COMMIT"_s));
     EXPECT_TRUE(StateOf(Site()).contains(u"|Other|"_s));
 }

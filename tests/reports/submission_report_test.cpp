@@ -59,13 +59,4 @@ TEST_F(SubmissionReportTest, ListsTheEntryBehindTheNamesAndOverwritesItsPage) {
     EXPECT_TRUE(PageExists(u"Stale"_s));
 }
 
-TEST_F(SubmissionReportTest, AnEmptyRunHasItsHeadingsAndOneEmptyRow) {
-    const QByteArray html = Written();
-    EXPECT_TRUE(html.contains("Successful Registrations:  0</b></font></td>    </tr>\r\n<tr>        <td "
-                              "align=\"center\"bgcolor=\"#5AADAD\"><font size=\"3\" face=\"Arial, "
-                              "Helvetica\"><b>Failed Registrations:  0<"));
-    EXPECT_EQ(html.count("report/.htm\"></A>"), 1);
-    EXPECT_TRUE(PageExists(QString()));
-}
-
 } // namespace

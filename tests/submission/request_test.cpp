@@ -1,4 +1,3 @@
-#include "submission/request_headers.h"
 #include "submission/request_template.h"
 #include "tests/qt_printing.h"
 
@@ -46,32 +45,6 @@ TEST(RequestTemplateTest, ReplacesTheWordsOfARecord) {
     for (const QStringList &row : cases)
         EXPECT_EQ(RequestTemplate(record).Expand(row[0], category), row[1]);
     EXPECT_EQ(asked, 2) << "once for each shape of a word";
-}
-
-TEST(RequestHeadersTest, WritesTheFixedLinesInTheirOrder) {
-    const SiteRequest request{u"Site"_s, u"http://a.example/add"_s, u"url=x&t=caf\u00e9"_s, u"Get"_s};
-    EXPECT_EQ(SubmissionHeaders(request, u"a.example"_s),
-              "HOST: a.example\r\n"
-              "USER_AGENT: Mozilla/4.0 (compatible; MSIE 4.01; Windows 98)\r\n"
-              "PRAGMA: no-cache\r\n"
-              "ACCEPT_CHARSET: iso-8859-1,*,utf-8\r\n"
-              "ACCEPT: */*\r\n"
-              "ACCEPT_LANGUAGE: en\r\n"
-              "CONNECTION: Keep-Alive\r\n"
-              "REFERER: http://a.example/add?url=x&t=caf\xe9\r\n");
-}
-
-TEST(RequestHeadersTest, PutsThePostBodyBehindItsLengthInBytes) {
-    // One byte a character: the letter outside the code page becomes one "?", the pair of surrogates too.
-    const SiteRequest request{u"Site"_s, u"http://a.example/add"_s, u"t=\u20ac\u0416\U0001F600&u=\r\nX: y"_s,
-                              u"POST"_s};
-    const QByteArray headers = SubmissionHeaders(request, u"a.example"_s);
-    EXPECT_TRUE(headers.endsWith("REFERER: http://a.example/add\r\n"
-                                 "CONTENT-TYPE: application/x-www-form-urlencoded\r\n"
-                                 "CONTENT-LENGTH: 14\r\n"
-                                 "\r\n"
-                                 "t=\x80??&u=\r\nX: y"))
-        << headers.toStdString();
 }
 
 } // namespace

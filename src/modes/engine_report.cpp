@@ -33,7 +33,7 @@ bool EngineReport::WriteEngineReport(const QString &reportFile, int urlStart) {
     CollectEngineResults();
     QString page = parts.templates.TemplateTop + parts.templates.TemplateLoopTop;
     for (const EngineRow &engine : parts.form.engines.rows) {
-        if (parts.form.IsEngineSelected(engine.name))
+        if (parts.form.IsEngineSelected(engine.name) && !engine.result.isEmpty())
             page += Row(engine);
     }
     page += parts.templates.TemplateBottom;
@@ -42,7 +42,8 @@ bool EngineReport::WriteEngineReport(const QString &reportFile, int urlStart) {
     return written;
 }
 
-// An engine without a task was selected too late. It has no result, least of all that of an earlier job.
+// An engine without a task was selected too late. It has no result, least of all that of an earlier job, and
+// so no row: its links would lead nowhere.
 void EngineReport::CollectEngineResults() {
     for (EngineRow &engine : parts.form.engines.rows)
         engine.resultImage = engine.answerFile = engine.result = QString();

@@ -23,9 +23,9 @@ public:
     explicit EngineReport(const Parts &theParts) : parts(theParts) {}
 
     /// Takes the results of the spider's tasks into the table, and writes the report of the current URL: a
-    /// row for each selected engine, in the order of the table.
-    /// `urlStart` is the whole second of the day at which the URL was begun. False, with the old file left,
-    /// if it could not be written.
+    /// row for each selected engine, in the order of the table. One that was selected behind the start has
+    /// none. `urlStart` is the whole second of the day at which the URL was begun. False, with the old file
+    /// left, if it could not be written.
     bool WriteEngineReport(const QString &reportFile, int urlStart);
 
     /// Writes the index: a link for each slot from 0 to MultiUrlUpper, `reportFiles` in their order, also for

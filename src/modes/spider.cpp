@@ -35,6 +35,7 @@ Spider::Spider(EventQueue &eventQueue, const Clock &systemClock, const ClientFac
 void Spider::ClearTasks() {
     tasks.clear();
     currentTask = 0;
+    stopped = false;
 }
 
 void Spider::SetProxy(const QString &server, int port) {
@@ -45,21 +46,26 @@ void Spider::SetProxy(const QString &server, int port) {
 }
 
 void Spider::Start(const QString &folder) {
-    Stop();
     answerFolder = folder;
     nextTask = ended = 0;
     running = !tasks.empty();
+    if (stopped) {
+        Stop(); // now that there is a folder for the pages
+        return;
+    }
     for (int worker = 0; worker < tasksAtATime; ++worker)
         BeginNext(worker);
 }
 
 void Spider::Stop() {
-    const bool cutsOff = std::exchange(running, false);
+    stopped = true;
+    if (!std::exchange(running, false))
+        return;
     for (Worker &worker : workers) {
         worker.exchange->Abort();
         worker.task = noTask;
     }
-    for (int task = 0; cutsOff && task < TaskCount(); ++task) {
+    for (int task = 0; task < TaskCount(); ++task) {
         if (ItemOf(task, u"status"_s).isEmpty())
             LeaveReason(task, u"The submission was canceled"_s);
     }

@@ -45,10 +45,11 @@ public:
     void SetProxy(const QString &server, int port);
 
     /// Begins the tasks and returns at once; each answer is saved in `folder`, which exists and ends in a
-    /// separator.
+    /// separator. The last work must have ended.
     void Start(const QString &folder);
 
-    /// Ends the work silently. Unfinished tasks get no status, only a page that tells it.
+    /// Ends the work silently. Unfinished tasks get no status, only a page that tells it. Pressed while the
+    /// list is still being made, it holds for the Start that follows: none of the tasks is begun then.
     void Stop();
 
     /// True from Start until all tasks have ended or Stop.
@@ -107,6 +108,7 @@ private:
     int nextTask = 0; ///< the first that was not begun
     int ended = 0;    ///< number of tasks with a status
     bool running = false;
+    bool stopped = false; ///< since the list was cleared
 };
 
 } // namespace lanterra

@@ -153,8 +153,7 @@ void TopEngines::RunTopEnginesForUrl() {
     if (upgrade && parts.frmSettings.check_for_program_upgrade.Checked())
         upgrade->HoldUpgrade();
     parts.frame.SetPointer(MousePointer::Default);
-    if (!parts.run.entireCancel) // pressed while the tasks were made
-        spider.Start(reportFolder);
+    spider.Start(reportFolder);
     while (spider.Running() && !parts.queue.Closing())
         spider.WaitForTasks();
     spider.Stop();

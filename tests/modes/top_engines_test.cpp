@@ -98,26 +98,37 @@ TEST_F(TopEnginesTest, ReportsEachSelectedEngineInTheOrderOfTheFile) {
 TEST_F(TopEnginesTest, StopEndsTheUrlWhileCancelAndCloseEndTheJob) {
     const struct {
         void (TopEnginesForm::*press)();
+        bool early; ///< while the tasks are still being made
         bool goesOn;
-    } cases[] = {{&TopEnginesForm::cmdStop_Click, true},
-                 {&TopEnginesForm::SSCommand1_Click, false},
-                 {&TopEnginesForm::Close, false}};
+    } cases[] = {{&TopEnginesForm::cmdStop_Click, false, true},
+                 {&TopEnginesForm::cmdStop_Click, true, true},
+                 {&TopEnginesForm::SSCommand1_Click, false, false},
+                 {&TopEnginesForm::SSCommand1_Click, true, false},
+                 {&TopEnginesForm::Close, false, false},
+                 {&TopEnginesForm::Close, true, false}};
     GivenProgram({u"One"_s});
     GivenTwoUrls();
-    for (const auto &[press, goesOn] : cases) {
+    const auto showsTheNext = [this] {
+        EXPECT_TRUE(Form().Visible()) << "the next URL brings the form back";
+        Answer(SpiderClient(0));
+    };
+    for (const auto &[press, early, goesOn] : cases) {
         QDir(home.filePath(u"Projects/Project1/report"_s)).removeRecursively();
         dialogs.answers.push_back(BoxAnswer::Yes);
-        queue.WhenIdle([this] { Form().cmdSubmit_Click(); });
-        queue.WhenIdle([this, button = press] { (Form().*button)(); });
-        if (goesOn) {
-            queue.WhenIdle([this] {
-                EXPECT_TRUE(Form().Visible()) << "the next URL brings the form back";
-                Answer(SpiderClient(0));
-            });
-        }
+        const auto presses = [this, button = press] { (Form().*button)(); };
+        queue.WhenIdle([&, atOnce = early] {
+            Form().cmdSubmit_Click();
+            if (atOnce)
+                queue.AtYield(1, presses);
+        });
+        if (!early)
+            queue.WhenIdle(presses);
+        if (goesOn)
+            queue.WhenIdle(showsTheNext);
         program->run.mnuTop9_Click();
         EXPECT_TRUE(
             Page(u"URL0/report.html"_s).contains(u"file:///bad,Canceled,"_s + Link(u"URL0/engine0.htm"_s)));
+        EXPECT_TRUE(Page(u"URL0/engine0.htm"_s).contains(u"The submission was canceled."_s));
         EXPECT_EQ(Page(u"URL1/report.html"_s).contains(u"Successful"_s), goesOn);
         EXPECT_TRUE(Page(u"top_engines_report.html"_s)
                         .contains(u"<p><font size=\"2\"><a href=\"%1\">http://two.example/</a></font></p>\r\n"
@@ -144,7 +155,7 @@ TEST_F(TopEnginesTest, ANoSubmitsTheFirstUrlAndEmptiesItsFolder) {
     EXPECT_FALSE(QDir(home.filePath(u"Projects/Project1/report/URL1"_s)).exists());
 }
 
-TEST_F(TopEnginesTest, AnEngineThatIsSelectedTooLateHasNoResult) {
+TEST_F(TopEnginesTest, AnEngineThatIsSelectedTooLateHasNoRow) {
     GivenProgram({u"One"_s, u"Two"_s});
     EveryEngineAnswers();
     Submit();
@@ -156,7 +167,7 @@ TEST_F(TopEnginesTest, AnEngineThatIsSelectedTooLateHasNoResult) {
         Answer(SpiderClient(0));
     });
     program->run.mnuTop9_Click();
-    EXPECT_TRUE(Page(u"URL0/report.html"_s).contains(u"\r\nTwo,S Two,R Two,,,file:///\r\n"_s));
+    EXPECT_TRUE(Page(u"URL0/report.html"_s).contains(Link(u"URL0/engine0.htm"_s) + u"\r\n1 file"_s));
 }
 
 TEST_F(TopEnginesTest, ItsBoxComesBackUntilAnEngineIsSelectedBesideIt) {

@@ -1,8 +1,6 @@
 #include "project/project_files.h"
 
-#include "database/maintenance.h"
-#include "database/sqlite_file_check.h"
-#include "database/walk_transaction.h"
+#include "project/project_saving.h"
 #include "support/file_names.h"
 
 #include <QDir>
@@ -149,22 +147,10 @@ void ProjectFiles::mnuFileMRU_Click(int item) {
         LoadProject();
 }
 
-// The project's own file, or the master where that path leads to no database, or to other sites by now: Save
-// As is the way out of both. A file that can't be read at the moment stays the source, as its statistics go
-// with it.
-QString ProjectFiles::SourceOfCopy() {
-    Project &project = parts.project;
-    const QString refusal = SqliteFileRefusal(project.path.Base);
-    if (project.path.Base.isEmpty() || !(refusal.isEmpty() || refusal == UnreadableRefusal()))
-        return project.path.MasterFile();
-    const bool holdsOthers = project.database.BindProject() && !HoldsListedSites(project);
-    return holdsOthers ? project.path.MasterFile() : project.path.Base;
-}
-
 // False, with the path as it was, if the user cancelled the dialog or nothing could be stored.
 bool ProjectFiles::SaveAs() {
     ProjectPath &path = parts.project.path;
-    const QString source = SourceOfCopy();
+    const QString source = SourceOfCopy(parts.project);
     path.CreateProjectsFolder();
     const QString proposed =
         path.Base.isEmpty() ? QString() : GetFileName(path.Base, QDir::separator(), false);
@@ -195,59 +181,10 @@ StoreResult ProjectFiles::SaveProject(const QString &source) {
         if (parts.project.record.LoadingProject)
             result.failure = u"A project is being loaded."_s;
         else
-            result = Store(source);
+            result = StoreProject(parts.project, source, parts.status, parts.queue);
     }
     parts.frame.Notice.SetCaption(result.stored ? QString()
                                                 : u"The project could not be saved: "_s + result.failure);
-    return result;
-}
-
-StoreResult ProjectFiles::Store(const QString &source) {
-    Project &project = parts.project;
-    const QString &base = project.path.Base;
-    project.database.Unbind();
-    const bool inPlace = source.isEmpty() || IsSameFile(source, base);
-    StoreResult result = inPlace ? StoreResult{true, {}, {}} : StoreCopy(source, base);
-    const bool bound = project.database.BindProject();
-    project.database.BindMaster();
-    if (!result.stored || !inPlace)
-        return result;
-    if (!bound)
-        return {false, {}, project.database.Data2.Failure()};
-    if (!HoldsListedSites(project))
-        return {false, {}, u"Another program has put other sites into the file."_s};
-    return StoreRecordAndSelection();
-}
-
-// The copy takes its name once it holds everything, so that the file is the old one or the new one.
-StoreResult ProjectFiles::StoreCopy(const QString &source, const QString &target) {
-    StoreResult result;
-    result.failure = CopyDatabase(source, target, [&](const QString &copy) {
-        DataControl &table = parts.project.database.Data2;
-        table.SetDatabaseName(copy);
-        table.SetRecordSource(u"Data"_s);
-        if (!table.Refresh())
-            return table.Failure();
-        result = StoreRecordAndSelection();
-        parts.project.database.Unbind();
-        return result.failure;
-    });
-    result.stored = result.failure.isEmpty();
-    return result;
-}
-
-StoreResult ProjectFiles::StoreRecordAndSelection() {
-    if (parts.project.lists.List1.ListCount() == 0)
-        return {true, {}, {}};
-    DataControl &table = parts.project.database.Data2;
-    WalkTransaction transaction(table);
-    StoreResult result = SaveProjectFields(parts.project);
-    const bool marksStored =
-        !HoldsListedSites(parts.project) || SaveSiteSelection(parts.project, parts.status, parts.queue);
-    if (!transaction.Commit() || !marksStored) {
-        result.stored = false;
-        result.failure = table.Failure();
-    }
     return result;
 }
 

@@ -90,10 +90,6 @@ private:
     void ShowRecentFiles(const QStringList &names);
     void LockEntries();
     bool SaveAs();
-    QString SourceOfCopy();
-    StoreResult Store(const QString &source);
-    StoreResult StoreCopy(const QString &source, const QString &target);
-    StoreResult StoreRecordAndSelection();
     void ClearForNewProject();
     void ShowLoadedUrls();
 

@@ -19,6 +19,7 @@ ProjectDialog::ProjectDialog(ProjectPath &projectPath, ProjectFiles &projectFile
                              CheckBox &loadLastProject, Dialogs &fileDialogs)
     : path(projectPath), files(projectFiles), recent(recentFile), settingsBox(loadLastProject),
       dialogs(fileDialogs) {
+    SetVisible(false);
     AddToForm(*this, Option1, u"Option1"_s);
     AddToForm(*this, Option2, u"Option2"_s);
     AddToForm(*this, List1, u"List1"_s);
@@ -77,13 +78,6 @@ void ProjectDialog::List1_DblClick() {
     } else if (!file.isEmpty()) {
         dialogs.Show({u"File '%1' did not exist.\r\n\r\n"_s.arg(file), u"Error"_s, BoxIcon::Critical});
     }
-}
-
-void ProjectDialog::SetVisible(bool show) {
-    if (visible == show)
-        return;
-    visible = show;
-    emit VisibleChanged(show);
 }
 
 } // namespace lanterra

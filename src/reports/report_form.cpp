@@ -12,7 +12,6 @@ namespace {
 
 const QString lineEnd = u"\r\n"_s;
 constexpr int reselectSetting = 2; ///< the window's value that allows the question about failed sites
-constexpr int settingOn = 6;       ///< stored
 
 } // namespace
 
@@ -92,7 +91,7 @@ void ReportForm::Command1_Click() {
 void ReportForm::cmdprint_Click() { parts.printer.PrintText(PlainText()); }
 
 void ReportForm::cmdOk_Click() {
-    if (ReselectFailed && parts.windowSettings.Value(reselectSetting) == settingOn) {
+    if (ReselectFailed && parts.windowSettings.Value(reselectSetting) == WindowSettings::valueOn) {
         const MessageBox question{u"Select unsuccessful registration ?"_s, u"Zephyrine Lanterra"_s,
                                   BoxIcon::Question, BoxButtons::YesNo, BoxAnswer::No};
         if (parts.dialogs.Show(question) == BoxAnswer::Yes)

@@ -10,6 +10,9 @@ namespace lanterra {
 /// that was open last. The third value tells whether a proxy is in force; the others are only carried along.
 class WindowSettings {
 public:
+    static constexpr int valueOff = 5; ///< stored
+    static constexpr int valueOn = 6;  ///< stored
+
     /// `base` is the path of the open project, empty for none. Both must outlive this.
     WindowSettings(Options &storedOptions, const QString &base);
 
@@ -29,8 +32,6 @@ public:
     int Value(int number) const { return values.at(static_cast<std::size_t>(number - 1)); }
 
 private:
-    static constexpr int valueOff = 5;           ///< stored
-    static constexpr int valueOn = 6;            ///< stored
     static constexpr std::size_t proxyValue = 2; ///< position of the third value
 
     OptionText Stored(std::size_t position) const;

@@ -108,10 +108,10 @@ void HttpExchange::ReceiveBlock(const QByteArray &block) {
             headerSeen = true;
             headerText = reader.HeaderText();
             dataStart = block.size() - rest.size();
-            bodyFile.Open(savePath);
+            page.Open(savePath);
             continue;
         case AnswerReader::Step::Body:
-            bodyFile.Write(reader.Piece());
+            page.Write(reader.Piece());
             emit BodyArrived(reader.Piece());
             continue;
         case AnswerReader::Step::NeedsMore:
@@ -141,7 +141,7 @@ void HttpExchange::TakeEnd() {
 void HttpExchange::End(Stage next) {
     stage = next;
     connection.reset();
-    bodyFile.Close();
+    page.Close();
     AskForTurn();
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/answer_reader.h"
-#include "platform/body_file.h"
 #include "platform/connection.h"
+#include "support/page_file.h"
 
 namespace lanterra {
 
@@ -55,7 +55,7 @@ private:
     const QString savePath;
     std::unique_ptr<Connection> connection; ///< none once the exchange has ended
     AnswerReader reader;
-    BodyFile bodyFile;
+    PageFile page;
     Failure failure;
     Stage stage = Stage::Connecting;
     bool headerSeen = false;

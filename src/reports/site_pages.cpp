@@ -2,10 +2,10 @@
 
 #include "support/code_page.h"
 #include "support/file_names.h"
+#include "support/page_file.h"
 #include "support/text_file.h"
 
 #include <QDir>
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -25,12 +25,9 @@ bool CanHavePage(const QString &siteName) { return siteName.isEmpty() || CanBeFi
 void WriteSitePage(const QString &reportFolder, const QString &siteName, const QString &html) {
     if (!CanHavePage(siteName))
         return;
-    // A new file in the place of the old one, without a flush of the disk: a run writes hundreds of pages,
-    // and none of them is worth waiting for.
-    QFile page(SitePagePath(reportFolder, siteName));
-    page.remove();
-    if (page.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        page.write(CodePage::Encode(html));
+    PageFile page;
+    page.Open(SitePagePath(reportFolder, siteName));
+    page.Write(CodePage::Encode(html));
 }
 
 // Both pages are fixed texts. The blank that is missing before "vlink" in the first one belongs to it.

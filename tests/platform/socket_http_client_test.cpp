@@ -55,14 +55,6 @@ TEST_F(SocketHttpClientTest, DataBeginsWithTheFinalHeaderAndTextIsKeptOnRequestO
     }
 }
 
-TEST_F(SocketHttpClientTest, ALinkInPlaceOfThePageIsReplacedAndNotFollowed) {
-    const QString target = folder.filePath(u"target"_s);
-    ASSERT_TRUE(QFile::link(target, page));
-    EXPECT_EQ(Exchange(good), done);
-    EXPECT_EQ(Page(), "hello body\n");
-    EXPECT_EQ(BytesOf(target), "old page");
-}
-
 TEST_F(SocketHttpClientTest, APageThatCantBeWrittenChangesNoVerdict) {
     for (const QString &path : {folder.path(), folder.filePath(u"no/folder"_s), QString()}) {
         client->SetSaveFile(path);
@@ -98,7 +90,7 @@ TEST_F(SocketHttpClientTest, AbortDropsWhatIsDueAndTheNextExchangeStartsClean) {
                 client->Abort();
         };
         Begin();
-        EXPECT_TRUE(WaitFor([&] { return events.endsWith(stop); }));
+        EXPECT_TRUE(WaitUntil([&] { return events.endsWith(stop); }));
         during = nullptr;
         EXPECT_EQ(Exchange(), done);
     }
@@ -109,7 +101,7 @@ TEST_F(SocketHttpClientTest, AbortDropsWhatIsDueAndTheNextExchangeStartsClean) {
 
 TEST_F(SocketHttpClientTest, AbortWithErrorRaisesItOnceAtALaterTurn) {
     Begin();
-    ASSERT_TRUE(WaitFor([this] { return !server.received.isEmpty(); }));
+    ASSERT_TRUE(WaitUntil([this] { return !server.received.isEmpty(); }));
     client->AbortWithError();
     EXPECT_EQ(events, u"Connected"_s);
     queue.Yield();
@@ -145,7 +137,7 @@ TEST_F(SocketHttpClientTest, MayBeDeletedInsideEachOfItsEvents) {
                 client.reset();
         };
         Begin();
-        EXPECT_TRUE(WaitFor([this] { return !client; })) << last.toStdString();
+        EXPECT_TRUE(WaitUntil([this] { return !client; })) << last.toStdString();
         queue.Yield();
         EXPECT_TRUE(events.endsWith(last));
     }

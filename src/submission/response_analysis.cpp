@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -32,12 +33,13 @@ QString LabelledValue(const QString &text, QLatin1StringView label) {
 // The value of "Location: " up to the CR of its line; nothing without the label or the CR. Found in one step,
 // without the turns of the queue that a walk by characters would take: the yields between the phrases are
 // enough.
-QString LocationUpToCr(const QString &text, bool *complete) {
+std::optional<QString> LocationUpToCr(const QString &text) {
     constexpr QLatin1StringView label = "Location: "_L1;
     const qsizetype found = text.indexOf(label, 0, Qt::CaseInsensitive);
     const qsizetype lineEnd = found < 0 ? -1 : text.indexOf(u'\r', found);
-    *complete = lineEnd >= 0;
-    return *complete ? text.mid(found + label.size(), lineEnd - found - label.size()) : QString();
+    if (lineEnd < 0)
+        return {};
+    return text.mid(found + label.size(), lineEnd - found - label.size());
 }
 
 } // namespace
@@ -85,9 +87,7 @@ QString ResponseAnalysis::ReadRedirection(const QString &text) {
                                "304 "_L1, " multiple"_L1, " moved"_L1, " Redirection"_L1};
     if (std::none_of(marks.begin(), marks.end(), [&](QLatin1StringView mark) { return Holds(line, mark); }))
         return {};
-    bool complete = false;
-    LocationUpToCr(line, &complete);
-    return complete ? u"Redirection"_s : u"Error: No redirection URL"_s;
+    return LocationUpToCr(line) ? u"Redirection"_s : u"Error: No redirection URL"_s;
 }
 
 QString ResponseAnalysis::ScanLocation(QString text) {
@@ -96,8 +96,7 @@ QString ResponseAnalysis::ScanLocation(QString text) {
         return {};
     if (!HasStatusLine(text))
         return unknownError;
-    bool complete = false;
-    return LocationUpToCr(text, &complete);
+    return LocationUpToCr(text).value_or(QString());
 }
 
 } // namespace lanterra

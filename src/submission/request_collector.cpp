@@ -7,14 +7,22 @@ using namespace Qt::StringLiterals;
 namespace lanterra {
 
 bool RequestCollector::CollectSubmissionData() {
-    DataControl &table = project.database.Data2;
-    EnsureRecordSource(table, u"Data"_s);
+    EnsureRecordSource(project.database.Data2, u"Data"_s);
     const RequestTemplate values(project.record);
     txtEmailText = values.Value(u"txtEmailText");
     AllKeywords = values.Value(u"AllKeywords");
     files.mnuFileSave_Click();
 
     requests.assign(static_cast<std::size_t>(project.lists.List1.ListCount()), {});
+    const bool complete = CollectRows(values);
+    if (project.database.Data1.DatabaseName() != project.path.MasterFile())
+        project.database.BindMaster();
+    return complete;
+}
+
+// False if the user cancelled.
+bool RequestCollector::CollectRows(const RequestTemplate &values) {
+    DataControl &table = project.database.Data2;
     TableWalk sites(table, u"Data"_s);
     const int rows = sites.RowCount();
     status.Show(u"Collecting submission data ..."_s, rows - 1);
@@ -29,8 +37,6 @@ bool RequestCollector::CollectSubmissionData() {
             queue.Yield();
     }
     status.Finish();
-    if (project.database.Data1.DatabaseName() != project.path.MasterFile())
-        project.database.BindMaster();
     return !cancelled;
 }
 

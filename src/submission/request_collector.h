@@ -12,6 +12,7 @@ namespace lanterra {
 /// Reads the selected sites of the open project and makes the request of each.
 class RequestCollector {
 public:
+    /// All must outlive this.
     RequestCollector(Project &openProject, ProjectFiles &projectFiles, StatusForm &statusForm,
                      EventQueue &eventQueue)
         : project(openProject), files(projectFiles), status(statusForm), queue(eventQueue) {}
@@ -45,6 +46,8 @@ public:
     QString AllKeywords;
 
 private:
+    bool CollectRows(const RequestTemplate &values);
+
     Project &project;
     ProjectFiles &files;
     StatusForm &status;

@@ -5,6 +5,7 @@
 #include "submission/submission_channel.h"
 
 #include <array>
+#include <functional>
 
 namespace lanterra {
 
@@ -25,6 +26,7 @@ public:
         const Clock &clock;
     };
 
+    /// All parts must outlive this. `makeClient` is called five times and not kept.
     ChannelBank(const Parts &theParts, const ClientFactory &makeClient);
     ~ChannelBank() = default;
     Q_DISABLE_COPY_MOVE(ChannelBank)

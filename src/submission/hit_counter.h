@@ -15,6 +15,7 @@ class HitCounter : public QObject {
     Q_OBJECT
 
 public:
+    /// `scratchPath` is the file that takes the answer. Hosts and options must outlive this.
     HitCounter(std::unique_ptr<HttpClient> httpClient, const Hosts &outsideHosts, Options &userOptions,
                const QString &scratchPath);
 

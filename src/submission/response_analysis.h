@@ -11,6 +11,7 @@ namespace lanterra {
 /// class of the status alone.
 class ResponseAnalysis {
 public:
+    /// The queue must outlive this.
     explicit ResponseAnalysis(EventQueue &eventQueue);
 
     /// "Error: " and the first failure phrase that the text holds; "Error: unknown" for a text without a

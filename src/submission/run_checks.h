@@ -10,6 +10,7 @@ namespace lanterra {
 /// mended is shown.
 class RunChecks {
 public:
+    /// All must outlive this.
     RunChecks(Project &openProject, MainFrame &mainFrame, RequestCollector &requestCollector,
               Dialogs &messageDialogs)
         : project(openProject), frame(mainFrame), collector(requestCollector), dialogs(messageDialogs) {}
@@ -18,7 +19,7 @@ public:
     /// fax number that of the telephone first. Yields.
     bool Pass();
 
-    /// The part of it that the other modes want: the required fields alone.
+    /// The part of it that the other modes want: the required fields alone. Yields while its box is up.
     bool FieldsPass();
 
 private:

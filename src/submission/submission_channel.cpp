@@ -4,8 +4,6 @@
 #include "support/code_page.h"
 #include "support/numbers.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace lanterra {

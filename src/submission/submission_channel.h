@@ -8,7 +8,6 @@
 #include "submission/response_analysis.h"
 #include "submission/submit_form.h"
 
-#include <functional>
 #include <memory>
 
 namespace lanterra {
@@ -34,6 +33,7 @@ public:
         ResponseAnalysis *headerScan = nullptr;
     };
 
+    /// What the parts refer to must outlive this.
     explicit SubmissionChannel(Parts theParts);
 
     /// Readies the channel for a run.
@@ -55,9 +55,9 @@ public:
     /// Cuts the exchange off as failed because the limit has passed.
     void TimeOut(double limitSeconds);
 
-    /// Ends the exchange silently, for Cancel, and frees the channel. A site in flight keeps the reason unless
-    /// it is judged all the same. `closed` and `completed` stay: a channel that was cancelled in flight takes
-    /// no other site in this run.
+    /// Ends the exchange silently, for Cancel, and frees the channel. A site in flight keeps the reason
+    /// unless it is judged all the same. `closed` and `completed` stay: a channel that was cancelled in
+    /// flight takes no other site in this run.
     void Cancel(const QString &reason);
 
     /// "Abort": only asks the client. What changes comes with the Error event that follows.

@@ -3,18 +3,15 @@
 #include "tests/fakes/site_database_builder.h"
 #include "tests/platform/raw_server.h"
 #include "tests/qt_printing.h"
+#include "tests/wait_until.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <csignal>
-#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -79,15 +76,6 @@ protected:
             process.exitStatus() == QProcess::NormalExit && process.error() == QProcess::UnknownError;
         return {byItself ? process.exitCode() : -1, process.readAllStandardOutput(),
                 QString::fromUtf8(process.readAllStandardError())};
-    }
-
-    static bool WaitUntil(const std::function<bool()> &condition) {
-        QTimer wake; // so that a wait for events comes to its deadline
-        wake.start(std::chrono::milliseconds(100));
-        const QDeadlineTimer deadline(std::chrono::seconds(20));
-        while (!condition() && !deadline.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        return condition();
     }
 
     /// A project p.rts with all that a run asks for, made from these sites, which are selected. Replaces an

@@ -1,29 +1,42 @@
 #pragma once
 
 #include "park/park_server.h"
+#include "tests/file_bytes.h"
+#include "tests/qt_printing.h"
+#include "tests/wait_until.h"
 
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <memory>
-
 namespace lanterra {
-
-/// Runs the event queue until the condition holds. False if that takes longer than ten seconds.
-bool RunUntil(const std::function<bool()> &condition);
 
 /// A peer of the practice web that says what it is told, byte for byte.
 class RawPeer {
 public:
-    explicit RawPeer(quint16 port);
+    explicit RawPeer(quint16 port) {
+        QObject::connect(&socket, &QTcpSocket::readyRead, &socket, [this] {
+            if (socket.readBufferSize() == 0)
+                heard += socket.readAll();
+        });
+        socket.connectToHost(QHostAddress::LocalHost, port);
+    }
 
-    RawPeer &Says(const QByteArray &bytes);
+    RawPeer &Says(const QByteArray &bytes) {
+        WaitUntil([this] { return socket.state() != QAbstractSocket::ConnectingState; });
+        socket.write(bytes);
+        return *this;
+    }
     /// All that came until the server closed; what came so far if it doesn't.
-    QByteArray HearsToTheEnd();
+    QByteArray HearsToTheEnd() {
+        EXPECT_TRUE(WaitUntil([this] { return socket.state() == QAbstractSocket::UnconnectedState; }));
+        return heard;
+    }
     /// Waits for a number of bytes at least.
-    QByteArray Hears(qsizetype count);
+    QByteArray Hears(qsizetype count) {
+        EXPECT_TRUE(WaitUntil([&] { return heard.size() >= count; }));
+        return heard;
+    }
     void DoesNotRead() { socket.setReadBufferSize(1); }
     void HangsUp() { socket.abort(); }
 
@@ -48,7 +61,9 @@ protected:
         return Say("POST " + target + " HTTP/1.1\r\nCONNECTION: close\r\nCONTENT-LENGTH: " +
                    QByteArray::number(body.size()) + "\r\n\r\n" + body);
     }
-    QStringList LogLines() const;
+    QStringList LogLines() const {
+        return QString::fromUtf8(BytesOf(folder.filePath(QStringLiteral("park.log")))).trimmed().split(u'\n');
+    }
 
     QTemporaryDir folder;
     AccessLog log{folder.filePath(QStringLiteral("park.log"))};

@@ -1,7 +1,5 @@
 #include "park/park_gates.h"
-#include "tests/file_bytes.h"
 #include "tests/park/park_fixture.h"
-#include "tests/qt_printing.h"
 
 using namespace lanterra;
 using namespace Qt::StringLiterals;

@@ -1,5 +1,4 @@
 #include "tests/park/park_fixture.h"
-#include "tests/qt_printing.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -72,7 +71,7 @@ TEST_F(ParkServerTest, DoesNotPileUpAnswersForAPeerThatDoesNotReadThem) {
     RawPeer greedy(server.serverPort());
     greedy.DoesNotRead();
     greedy.Says(QByteArray("GET / HTTP/1.1\r\n\r\n").repeated(3000));
-    EXPECT_TRUE(RunUntil([this] { return LogLines().size() > 1; }));
+    EXPECT_TRUE(WaitUntil([this] { return LogLines().size() > 1; }));
     for (int turn = 0; turn < 10'000; ++turn)
         QCoreApplication::processEvents();
     EXPECT_LT(LogLines().size(), 1000);

@@ -5,8 +5,8 @@
 #include "tests/file_bytes.h"
 #include "tests/platform/raw_server.h"
 #include "tests/qt_printing.h"
+#include "tests/wait_until.h"
 
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <functional>
@@ -67,15 +67,8 @@ protected:
     }
     QString Exchange() {
         Begin();
-        WaitFor([this] { return events.contains(u"Closing") || events.contains(u"Error"); });
+        WaitUntil([this] { return events.contains(u"Closing") || events.contains(u"Error"); });
         return events;
-    }
-
-    bool WaitFor(const std::function<bool()> &condition) {
-        const QDeadlineTimer deadline(5000);
-        while (!condition() && !deadline.hasExpired())
-            queue.Wait(std::chrono::milliseconds(deadline.remainingTime()));
-        return condition();
     }
 
     QByteArray Page() const { return BytesOf(page); }

@@ -3,8 +3,8 @@
 #include "support/text_file.h"
 #include "tests/fakes/scripted_event_queue.h"
 #include "tests/qt_printing.h"
+#include "tests/wait_until.h"
 
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <fcntl.h>
@@ -30,15 +30,6 @@ protected:
     OpenResult Open(EventQueue &queue, const QString &script) {
         return ProcessDocumentOpener(queue, clock, script).OpenWithDefault(u"x"_s);
     }
-    void WaitForTheEndOfAllPrograms() {
-        siginfo_t ended{};
-        for (const QDeadlineTimer deadline(10s); !deadline.hasExpired(); qtQueue.Wait(10s)) {
-            if (waitid(P_ALL, 0, &ended, WEXITED | WNOHANG | WNOWAIT) != 0)
-                break; // there is none
-        }
-        qtQueue.Yield();
-    }
-
     QTemporaryDir folder;
     FakeClock clock;
     QtEventQueue qtQueue;
@@ -78,7 +69,10 @@ TEST_F(ProcessDocumentOpenerTest, AProgramThatStillRunsAfterTwoSecondsHasWorkedA
         EXPECT_EQ(clock.Elapsed(), 2s);
         EXPECT_FALSE(QFile::exists(script + u".out"_s));
         EXPECT_EQ(write(gate, "\n", 1), 1);
-        WaitForTheEndOfAllPrograms();
+        EXPECT_TRUE(WaitUntil([] {
+            siginfo_t ended{};
+            return waitid(P_ALL, 0, &ended, WEXITED | WNOHANG | WNOWAIT) != 0; // there is no program
+        }));
         const QStringList ids = ReadFileText(script + u".out"_s).trimmed().split(u' ');
         EXPECT_EQ(ids.value(0), ids.value(1, u"none"_s));
     }

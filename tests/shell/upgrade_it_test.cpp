@@ -1,6 +1,6 @@
-#include "platform/qt_event_queue.h"
 #include "support/whole_file.h"
 #include "tests/fakes/program_fixture.h"
+#include "tests/wait_until.h"
 
 using namespace lanterra;
 using namespace Qt::StringLiterals;
@@ -111,9 +111,7 @@ TEST_F(UpgradeItTest, AServerThatNeverAnswersIsGivenUp) {
         {program->hosts, program->proxy, program->viewer, dialogs, std::chrono::milliseconds(1)},
         std::move(silent));
     upgrade.CheckNow();
-    QtEventQueue events;
-    for (int i = 0; i < 100 && dialogs.boxes.empty(); ++i)
-        events.Wait(std::chrono::seconds(1));
+    EXPECT_TRUE(WaitUntil([this] { return !dialogs.boxes.empty(); }));
     EXPECT_EQ(dialogs.Told(), failed + u"The server doesn't answer."_s);
     EXPECT_EQ(client.aborts, 1);
 }

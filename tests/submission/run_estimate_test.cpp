@@ -1,7 +1,5 @@
 #include "tests/submission/run_fixture.h"
-
-#include <QCoreApplication>
-#include <QDeadlineTimer>
+#include "tests/wait_until.h"
 
 using namespace lanterra;
 using namespace Qt::StringLiterals;
@@ -25,9 +23,7 @@ TEST_F(RunEstimateTest, TellsTheRestOfTheRunAndNotTooOften) {
         EXPECT_EQ(changes, 1);
         EXPECT_EQ(estimate.SecondsLeft(), 3) << "2.25 s, rounded up";
         EXPECT_EQ(estimate.Fraction(), 0.4);
-        for (const QDeadlineTimer deadline(5s); changes < 2 && !deadline.hasExpired();)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
-        EXPECT_EQ(changes, 2) << "the last of a burst is told, too";
+        EXPECT_TRUE(WaitUntil([&] { return changes == 2; })) << "the last of a burst is told, too";
         clock.Advance(2600ms);
         EXPECT_FALSE(estimate.SecondsLeft()) << "the sites that are left hang";
         Run().cmdCancel_Click();

@@ -1,9 +1,7 @@
 #include "submission/submission_run.h"
 
-#include "reports/site_pages.h"
 #include "submission/entry_corrections.h"
 #include "submission/required_fields.h"
-#include "support/numbers.h"
 
 #include <utility>
 
@@ -17,12 +15,14 @@ namespace {
 const QString programClosed = u"the program was closed"_s;
 const QString runCancelled = u"the run was cancelled"_s;
 
-constexpr int pagesOfTurn = 32; ///< written in one turn of the queue, some milliseconds on a slow disk
-
 } // namespace
 
 SubmissionRun::SubmissionRun(const Parts &theParts)
-    : parts(theParts), checks(parts.project, parts.frame, parts.collector, parts.dialogs) {}
+    : parts(theParts), checks(parts.project, parts.frame, parts.collector, parts.dialogs),
+      preparation({parts.project, parts.status, parts.proxy, parts.channels, parts.form, parts.collector,
+                   parts.counter, parts.result, parts.queue}),
+      ending({parts.project, parts.frame, parts.frmSettings, parts.result, parts.report, parts.statistics,
+              parts.viewer, parts.queue, parts.clock}) {}
 
 void SubmissionRun::cmdStart_Click() {
     cancelRequested = false;
@@ -35,7 +35,7 @@ void SubmissionRun::cmdStart_Click() {
         return;
     }
     if (multiIdle)
-        notStored.clear();
+        ending.ForgetNotStored();
     if (multiIdle && !ModeIsAutomated())
         return;
     if (!EnsureProjectFile())
@@ -125,38 +125,14 @@ void SubmissionRun::BeginRun() {
 }
 
 void SubmissionRun::Prepare() {
-    SubmitForm &form = parts.form;
-    parts.result.Begin(parts.project.lists.List1.ListCount());
-    LockEntries(true); // before the first yield, so that the marks stay
-    PrepareReportPages();
-    form.Label28.SetCaption(QString::number(parts.project.lists.List1.SelCount()));
-    CorrectEntries(parts.project.record);
     phase = 1;
-    parts.channels.Prepare();
-    parts.proxy.ApplyProxySettings();
-    nextSite = 0;
-    parts.counter.Fire();
-    form.Label2.SetCaption(parts.project.record.txtURL.Text());
+    LockEntries(true); // before the first yield, so that the marks stay
+    preparation.Prepare();
     if (upgrade && parts.frmSettings.check_for_program_upgrade.Checked())
         upgrade->HoldUpgrade();
-    CollectRequests();
+    if (!preparation.CollectRequests())
+        cancelRequested = true;
     parts.frame.SetPointer(MousePointer::Default);
-}
-
-// Every selected site has a page from the start, so that one which never answers shows why.
-void SubmissionRun::PrepareReportPages() {
-    parts.project.path.SplitProjectPath();
-    CreateReportFolders(parts.project.path, parts.result.reportFolder);
-    const QString page = BusySitePage();
-    const SiteLists &lists = parts.project.lists;
-    for (int i = 0; i < lists.List1.ListCount(); ++i) {
-        if (!lists.List1.Selected(i))
-            continue;
-        WriteSitePage(parts.result.reportFolder, lists.SiteName(i), page);
-        parts.result.Await(i);
-        if (i % pagesOfTurn == pagesOfTurn - 1)
-            parts.queue.Yield();
-    }
 }
 
 void SubmissionRun::LockEntries(bool locked) {
@@ -168,21 +144,15 @@ void SubmissionRun::LockEntries(bool locked) {
     parts.project.lists.List3.SetEnabled(!locked);
 }
 
-void SubmissionRun::CollectRequests() {
-    if (!SaveSiteSelection(parts.project, parts.status, parts.queue))
-        parts.result.notStored << u"The project could not be saved: "_s +
-                                      parts.project.database.Data2.Failure();
-    if (!parts.collector.CollectSubmissionData())
-        cancelRequested = true;
-    EnsureRecordSource(parts.project.database.Data2, u"Data"_s);
-}
-
 void SubmissionRun::Dispatch() {
+    const ListBox &sites = parts.project.lists.List1;
     startTime = parts.clock.Timer();
-    while (nextSite < parts.project.lists.List1.ListCount() && !parts.queue.Closing()) {
+    for (int nextSite = 0; nextSite < sites.ListCount() && !parts.queue.Closing(); ++nextSite) {
         while (!parts.channels.AnyFree() && !parts.queue.Closing())
             parts.channels.WaitForChannels();
-        DispatchOne();
+        const auto row = static_cast<std::size_t>(nextSite);
+        if (sites.Selected(nextSite) && row < parts.collector.requests.size())
+            parts.channels.Connect(parts.collector.requests[row], nextSite);
         EnsureRecordSource(parts.project.database.Data2, u"Data"_s);
         ShowCounts();
         if (cancelRequested) {
@@ -198,13 +168,6 @@ void SubmissionRun::Dispatch() {
     // A job counts a cancelled URL by the popup of Cancel. Counted here too, the next one would be skipped.
     if (!cancelRequested)
         CloseRun();
-}
-
-void SubmissionRun::DispatchOne() {
-    const auto row = static_cast<std::size_t>(nextSite);
-    if (parts.project.lists.List1.Selected(nextSite) && row < parts.collector.requests.size())
-        parts.channels.Connect(parts.collector.requests[row], nextSite);
-    ++nextSite;
 }
 
 // A program that ends doesn't wait for the sites; the run still ends with its report.
@@ -226,17 +189,7 @@ void SubmissionRun::EndRun() {
     DrainChannels();
     parts.channels.ShowIdle();
     LockEntries(false);
-    CompleteNotSelected();
-    ExplainMissingVerdicts();
-    parts.result.elapsedSeconds = RoundHalfEven(parts.clock.Timer() - startTime);
-    if (!parts.report.WriteSubmissionReport())
-        parts.result.notStored << u"The report could not be written: "_s + parts.result.reportFile;
-    if (parts.frmSettings.CreateStatistic.Checked() && !parts.statistics.AppendSessionRow(parts.result))
-        parts.result.notStored << u"The statistics could not be stored: "_s +
-                                      parts.project.database.Data3.Failure();
-    TellNotStored();
-    if (parts.project.record.Check3.Checked() && !parts.queue.Closing())
-        parts.viewer.OpenDocument(parts.result.reportFile);
+    ending.Record(startTime, ReasonWithoutVerdict());
     if (upgrade)
         upgrade->ReleaseUpgrade();
     multiActive = false;
@@ -246,33 +199,10 @@ void SubmissionRun::EndRun() {
     multiIdle = true;
 }
 
-void SubmissionRun::CompleteNotSelected() {
-    const SiteLists &lists = parts.project.lists;
-    parts.result.BeginNotSelected();
-    for (int i = 0; i < lists.List1.ListCount(); ++i) {
-        if (!lists.List1.Selected(i))
-            parts.result.AddNotSelected(lists.SiteName(i));
-        parts.queue.Yield();
-    }
-}
-
-void SubmissionRun::ExplainMissingVerdicts() {
-    const QString reason = parts.queue.Closing() ? programClosed
-                           : cancelRequested     ? runCancelled
-                                                 : u"not sent, because no channel had ended"_s;
-    for (int i = 0; i < static_cast<int>(parts.result.outcomes.size()); ++i) {
-        if (parts.result.outcomes[static_cast<std::size_t>(i)].verdict == Verdict::None)
-            parts.result.Explain(i, reason);
-    }
-}
-
-// In the notice, since a box would hold up a job. The save of a later run in it empties the notice, so what
-// all of its runs had to tell is told again.
-void SubmissionRun::TellNotStored() {
-    notStored += parts.result.notStored;
-    notStored.removeDuplicates();
-    if (!notStored.isEmpty())
-        parts.frame.Notice.SetCaption(notStored.join("; "_L1));
+QString SubmissionRun::ReasonWithoutVerdict() const {
+    if (parts.queue.Closing())
+        return programClosed;
+    return cancelRequested ? runCancelled : u"not sent, because no channel had ended"_s;
 }
 
 void SubmissionRun::CloseRun() {

@@ -1,20 +1,13 @@
 #pragma once
 
 #include "controls/button.h"
-#include "ports/clock.h"
 #include "ports/dialogs.h"
-#include "ports/event_queue.h"
 #include "ports/forms.h"
 #include "project/project_files.h"
-#include "reports/statistics.h"
-#include "reports/submission_report.h"
-#include "settings/document_viewer.h"
-#include "settings/proxy_settings.h"
-#include "submission/channel_bank.h"
-#include "submission/hit_counter.h"
-#include "submission/request_collector.h"
 #include "submission/run_checks.h"
+#include "submission/run_ending.h"
 #include "submission/run_extensions.h"
+#include "submission/run_preparation.h"
 
 namespace lanterra {
 
@@ -45,6 +38,7 @@ public:
         const Clock &clock;
     };
 
+    /// All parts must outlive this.
     explicit SubmissionRun(const Parts &theParts);
     ~SubmissionRun() = default;
     Q_DISABLE_COPY_MOVE(SubmissionRun)
@@ -110,23 +104,20 @@ private:
     void BeginRun();
 
     void Prepare();
-    void PrepareReportPages();
     void LockEntries(bool locked);
-    void CollectRequests();
 
     void Dispatch();
-    void DispatchOne();
     void ShowCounts();
     void EndRun();
     void DrainChannels();
-    void CompleteNotSelected();
-    void ExplainMissingVerdicts();
-    void TellNotStored();
+    QString ReasonWithoutVerdict() const;
     void CloseRun();
     void SetRunActive(bool active);
 
     Parts parts;
     RunChecks checks;
+    RunPreparation preparation;
+    RunEnding ending;
     SubmissionModes *modes = nullptr;
     UpgradeCheck *upgrade = nullptr;
 
@@ -136,9 +127,7 @@ private:
     bool saveRefused =
         false;           ///< would stop the run; nothing raises it, so a cancelled Save As lets the run go on
     int phase = 0;       ///< 1 while sites are dispatched, 2 when all are done, 0 when closed; only written
-    int nextSite = 0;    ///< index into List1
     float startTime = 0; ///< Clock::Timer at the start of dispatch
-    QStringList notStored; ///< by this run, or by all of the job's runs so far
 };
 
 } // namespace lanterra

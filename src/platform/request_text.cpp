@@ -1,33 +1,18 @@
 #include "platform/request_text.h"
 
 #include "support/code_page.h"
+#include "support/percent_encode.h"
 
 #include <QList>
 #include <algorithm>
 
 namespace lanterra {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr char lineEnd[] = "\r\n";
 
-bool IsControl(char c) { return (c >= 0 && c < 0x20) || c == 0x7F; }
-
 bool IsOutsideRequestLine(char c) { return IsControl(c) || c == ' ' || static_cast<unsigned char>(c) > 127; }
-
-QByteArray PercentEncode(const QByteArray &bytes, bool (*mustEncode)(char)) {
-    QByteArray encoded;
-    encoded.reserve(bytes.size());
-    for (const char c : bytes) {
-        if (mustEncode(c))
-            encoded += '%' + QByteArray(1, c).toHex().toUpper();
-        else
-            encoded += c;
-    }
-    return encoded;
-}
 
 // In a path the code page's "?" for a foreign character would begin the query, so such a character goes out
 // as UTF-8. The query is form data and follows the code page, as a body does.

@@ -1,22 +1,13 @@
 #include "submission/request_headers.h"
 
 #include "support/code_page.h"
+#include "support/percent_encode.h"
 
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
-QByteArray HeaderValue(const QString &text) {
-    QByteArray encoded;
-    for (const char byte : CodePage::Encode(text)) {
-        const auto code = static_cast<unsigned char>(byte);
-        if (code < 0x20 || code == 0x7F)
-            encoded += '%' + QByteArray(1, byte).toHex().toUpper();
-        else
-            encoded += byte;
-    }
-    return encoded;
-}
+QByteArray HeaderValue(const QString &text) { return PercentEncode(CodePage::Encode(text), IsControl); }
 
 bool IsPost(const QString &method) { return method.compare("post"_L1, Qt::CaseInsensitive) == 0; }
 

@@ -98,33 +98,26 @@ void HttpExchange::Receive() {
 }
 
 void HttpExchange::ReceiveBlock(const QByteArray &block) {
+    AskForTurn(); // for what is left to read
     QByteArrayView rest(block);
     QByteArray headerText;
     qsizetype dataStart = 0;
-    AskForTurn(); // for what is left to read
-    while (true) {
-        switch (reader.Read(rest)) {
-        case AnswerReader::Step::Header:
-            headerSeen = true;
-            headerText = reader.HeaderText();
-            dataStart = block.size() - rest.size();
-            page.Open(savePath);
-            continue;
-        case AnswerReader::Step::Body:
-            page.Write(reader.Piece());
-            emit BodyArrived(reader.Piece());
-            continue;
-        case AnswerReader::Step::NeedsMore:
-            break;
-        case AnswerReader::Step::Complete:
-            End(Stage::Done);
-            break;
-        case AnswerReader::Step::Failed:
-            Fail(BadAnswer(reader.Problem()));
-            break;
-        }
-        break;
+    AnswerReader::Step step = reader.Read(rest);
+    if (step == AnswerReader::Step::Header) {
+        headerSeen = true;
+        headerText = reader.HeaderText();
+        dataStart = block.size() - rest.size();
+        page.Open(savePath);
+        step = reader.Read(rest);
     }
+    for (; step == AnswerReader::Step::Body; step = reader.Read(rest)) {
+        page.Write(reader.Piece());
+        emit BodyArrived(reader.Piece());
+    }
+    if (step == AnswerReader::Step::Complete)
+        End(Stage::Done);
+    else if (step == AnswerReader::Step::Failed)
+        Fail(BadAnswer(reader.Problem()));
     if (headerSeen)
         emit Data(headerText + block.sliced(dataStart, block.size() - rest.size() - dataStart));
 }

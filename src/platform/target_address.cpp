@@ -48,6 +48,11 @@ bool SplitPort(const QString &authority, QString &host, quint16 &port) {
     return isNumber && digits.front().isDigit() && number >= 1 && number <= 65535;
 }
 
+std::optional<TargetAddress> Refuse(QString &problem, const QString &reason) {
+    problem = reason;
+    return {};
+}
+
 // Path and query; a query directly behind the host gets the slash that the request line needs.
 QString ResourceOf(const QString &behindHost) {
     const QString resource = behindHost.section(u'#', 0, 0);
@@ -75,10 +80,8 @@ QString AsciiHost(const QString &name) {
 std::optional<TargetAddress> ParseTarget(const QString &text, QString &problem) {
     const QString address = text.trimmed();
     const QString scheme = address.section(u"://"_s, 0, 0).toLower();
-    if (!address.contains(u"://"_s) || (scheme != u"http" && scheme != u"https")) {
-        problem = u"The address doesn't begin with http:// or https://"_s;
-        return {};
-    }
+    if (!address.contains(u"://"_s) || (scheme != u"http" && scheme != u"https"))
+        return Refuse(problem, u"The address doesn't begin with http:// or https://"_s);
     const QString rest = address.mid(scheme.size() + 3);
     const auto end = std::find_if(rest.begin(), rest.end(), [](QChar c) { return u"/?#\\"_s.contains(c); });
     const QString authority = rest.left(end - rest.begin());
@@ -88,15 +91,11 @@ std::optional<TargetAddress> ParseTarget(const QString &text, QString &problem) 
     target.port = OwnPort(target.secure);
     target.resource = ResourceOf(rest.mid(authority.size()));
     QString host;
-    if (!SplitPort(authority.mid(authority.lastIndexOf(u'@') + 1), host, target.port)) {
-        problem = u"The port of the address is not valid"_s;
-        return {};
-    }
+    if (!SplitPort(authority.mid(authority.lastIndexOf(u'@') + 1), host, target.port))
+        return Refuse(problem, u"The port of the address is not valid"_s);
     target.host = AsciiHost(host);
-    if (target.host.isEmpty()) {
-        problem = u"The host name of the address is not valid"_s;
-        return {};
-    }
+    if (target.host.isEmpty())
+        return Refuse(problem, u"The host name of the address is not valid"_s);
     return target;
 }
 

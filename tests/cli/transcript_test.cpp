@@ -1,4 +1,3 @@
-#include "cli/commands.h"
 #include "tests/cli/cli_fixture.h"
 
 namespace lanterra {
@@ -58,20 +57,6 @@ INSTANTIATE_TEST_SUITE_P(Shell, TranscriptTest,
                          testing::Values("pages", "projects", "runs", "searches", "several_urls", "sites",
                                          "top", "update", "wrong_use"),
                          [](const auto &each) { return std::string(each.param); });
-
-using HelpTest = CliFixture;
-
-TEST_F(HelpTest, ListsAndExplainsEachCommand) {
-    const QString general = Run({}).Text();
-    EXPECT_EQ(Run({u"--help"_s}).Text(), general);
-    for (const Command &command : Commands()) {
-        EXPECT_TRUE(general.contains(u"\n  "_s + command.name + u' ')) << command.name.toStdString();
-        const QString help = Run({u"help"_s, command.name}).Text();
-        EXPECT_TRUE(help.startsWith(u"Usage: lanterra-cli "_s + command.name + u' '));
-        EXPECT_TRUE(help.contains(u".\n"_s)) << "no sentence that explains " << command.name.toStdString();
-        EXPECT_EQ(Run({command.name, u"--help"_s}).Text(), help);
-    }
-}
 
 } // namespace
 } // namespace lanterra

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <map>
+#include <utility>
 #include <vector>
 
 // The doors that only let something out: each keeps what came through it, for the test to look at.
@@ -37,6 +38,15 @@ public:
     OpenResult Start(const QString &program, const QStringList &arguments) override {
         opened.push_back({program, arguments});
         return result;
+    }
+
+    /// What was opened since the last call, a line each: "PROGRAM|ARGUMENT|ARGUMENT ...", with nothing in
+    /// place of the program if it is the desktop's application.
+    QString Opened() {
+        QStringList lines;
+        for (const Call &call : std::exchange(opened, {}))
+            lines << (QStringList(call.program) << call.arguments).join(u'|');
+        return lines.join(u'\n');
     }
 
     struct Call {

@@ -73,11 +73,4 @@ TEST(RequestText, SendsHeadersAsTheyAreAndAddsWhatTheyLack) {
     }
 }
 
-TEST(RequestText, AProxyGetsTheWholeAddress) {
-    QString problem;
-    const QString target = u"http://A.example:8080?q"_s;
-    EXPECT_EQ(RequestLine({"GET", target, "", true}, ParseTarget(target, problem).value()),
-              "GET http://a.example:8080/?q HTTP/1.1");
-}
-
 } // namespace

@@ -7,23 +7,6 @@ namespace {
 
 using SocketHttpClientTest = ClientFixture;
 
-TEST_F(SocketHttpClientTest, SendsExactlyTheRequest) {
-    client->SetTarget(client->Target() + u"a?q=1\r\n2"_s);
-    headers = "HOST: z\r\nREFERER: " + client->Target().toLatin1() + "\r\n";
-    EXPECT_EQ(Exchange(good), done);
-    const QByteArray port = QByteArray::number(server.serverPort());
-    EXPECT_EQ(server.received, "GET /a?q=1%0D%0A2 HTTP/1.1\r\nHOST: z\r\nREFERER: http://127.0.0.1:" + port +
-                                   "/a?q=1%0D%0A2\r\n\r\n");
-    EXPECT_EQ(client->HostName(), u"127.0.0.1:"_s + QString::fromLatin1(port));
-
-    server.received.clear();
-    posts = true;
-    headers = "HOST: z\r\nCONTENT-TYPE: x\r\nCONTENT-LENGTH: 5\r\n\r\na\r\nb ";
-    client->SetTarget(Address(u"http"_s));
-    EXPECT_EQ(Exchange(), done);
-    EXPECT_EQ(server.received, "POST / HTTP/1.1\r\n" + headers);
-}
-
 TEST_F(SocketHttpClientTest, ReachesIPv6AddressesAndProxies) {
     RawServer sixth(QHostAddress::LocalHostIPv6);
     ASSERT_TRUE(sixth.isListening());

@@ -54,11 +54,9 @@ TEST_F(SiteDatabaseUpdateTest, TakesOverTheSitesSelectsThoseWithoutASuccessAndEn
     program->files.mnuFileSaveAs_Click(); // would ask
     // The third site lies behind the list of the session before.
     EXPECT_EQ(Stored(), u"Alta,0,2,New,-1,,Newer,0,,New,Top Arts,Stored,Alta,"_s);
-    ASSERT_EQ(dialogs.boxes.size(), 1U);
-    EXPECT_EQ(dialogs.boxes[0].title, u"New search engine database"_s);
-    EXPECT_EQ(dialogs.boxes[0].text,
-              u"Search engine database updated successfully. The new web sites are automatically selected."
-              u"\r\n\r\nYou must restart the program."_s);
+    EXPECT_EQ(dialogs.Told(),
+              u"New search engine database: Search engine database updated successfully. "
+              "The new web sites are automatically selected.\r\n\r\nYou must restart the program."_s);
     EXPECT_EQ(settings.Get(u"Settings"_s, u"ms"_s), u"1"_s);
     EXPECT_TRUE(QFile::exists(file + u".bak"_s));
     EXPECT_TRUE(program->files.Ended());

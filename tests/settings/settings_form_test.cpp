@@ -63,8 +63,7 @@ TEST_F(SettingsFormTest, CancelKeepsTheEditsForTheNextOkAndALostStoreIsToldOnce)
     store.failing = true;
     form.cmdOK_Click();
     EXPECT_TRUE(store.values.empty());
-    ASSERT_EQ(dialogs.boxes.size(), 1U);
-    EXPECT_EQ(dialogs.boxes[0].text, u"The settings could not be saved. "_s);
+    EXPECT_EQ(dialogs.Told(), u"Error: The settings could not be saved. "_s);
     store.failing = false;
     form.cmdOK_Click();
     EXPECT_EQ(Stored(u"PSN"_s), u"typed"_s);

@@ -22,12 +22,9 @@ protected:
         form.BrowserPath.SetText(browser);
         form.SSCommand1_Click();
     }
-    /// The program that was started and its arguments, parted by "|".
     QString Opened(const QString &document) {
-        opener.opened.clear();
         viewer.OpenDocument(document);
-        const auto &call = opener.opened.at(0);
-        return (QStringList(call.program) << call.arguments).join(u'|');
+        return opener.Opened();
     }
     QString Stored() const { return store.Get(u"Settings"_s, u"Browser"_s); }
 
@@ -79,12 +76,10 @@ TEST_F(WebBrowserFormTest, DocumentsGoToTheChosenBrowserAsOneArgument) {
 TEST_F(WebBrowserFormTest, OnlyAMissingApplicationIsTold) {
     opener.result = OpenResult::Failed;
     viewer.OpenDocument(u"x"_s);
-    EXPECT_TRUE(dialogs.boxes.empty());
+    EXPECT_EQ(dialogs.Told(), QString());
     opener.result = OpenResult::NoApplication;
     viewer.OpenDocument(u"x"_s);
-    ASSERT_EQ(dialogs.boxes.size(), 1U);
-    EXPECT_EQ(dialogs.boxes[0].text, u"There is no application for this type of file!"_s);
-    EXPECT_EQ(dialogs.boxes[0].title, u"Error"_s);
+    EXPECT_EQ(dialogs.Told(), u"Error: There is no application for this type of file!"_s);
 }
 
 } // namespace

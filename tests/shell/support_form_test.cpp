@@ -96,8 +96,7 @@ TEST_F(SupportFormTest, SendsNothingToAnEmptyAddress) {
     EXPECT_EQ(dialogs.Told(), u"Error: Server is unreachable!  "_s);
     EXPECT_EQ(program->frame.Pointer(), MousePointer::Default);
     program->frmTechSupp.Command2_Click();
-    ASSERT_EQ(documents.opened.size(), 1U);
-    EXPECT_EQ(documents.opened[0].arguments, QStringList(u"https://www.lanterra.example/support/"_s));
+    EXPECT_EQ(documents.Opened(), u"|https://www.lanterra.example/support/"_s);
 }
 
 } // namespace

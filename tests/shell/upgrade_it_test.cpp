@@ -89,8 +89,7 @@ TEST_F(UpgradeItTest, ThePageIsOpenedAndTheProgramEndsIfTheUserWantsIt) {
         Answer(newer + u"\nPage = https://maker.example/2.15"_s);
     }
     EXPECT_EQ(dialogs.boxes[0].defaultAnswer, BoxAnswer::No);
-    ASSERT_EQ(documents.opened.size(), 1U);
-    EXPECT_EQ(documents.opened[0].arguments, QStringList(u"https://maker.example/2.15"_s));
+    EXPECT_EQ(documents.Opened(), u"|https://maker.example/2.15"_s);
     EXPECT_EQ(closes, 1);
 }
 

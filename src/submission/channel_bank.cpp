@@ -38,11 +38,8 @@ void ChannelBank::BeginRun() {
 }
 
 void ChannelBank::Prepare() {
-    for (const auto &channel : channels) {
-        channel->ClearDisplay();
-        channel->free = true;
-        channel->SwitchOn();
-    }
+    for (const auto &channel : channels)
+        channel->Prepare();
 }
 
 void ChannelBank::CancelAll(const QString &reason) {
@@ -56,11 +53,11 @@ void ChannelBank::ShowIdle() {
 }
 
 bool ChannelBank::AnyFree() const {
-    return std::any_of(channels.begin(), channels.end(), [](const auto &channel) { return channel->free; });
+    return std::any_of(channels.begin(), channels.end(), [](const auto &channel) { return channel->Free(); });
 }
 
 bool ChannelBank::AllFree() const {
-    return std::all_of(channels.begin(), channels.end(), [](const auto &channel) { return channel->free; });
+    return std::all_of(channels.begin(), channels.end(), [](const auto &channel) { return channel->Free(); });
 }
 
 SubmissionChannel *ChannelBank::Candidate() {
@@ -75,7 +72,7 @@ void ChannelBank::Connect(const SiteRequest &request, int nextSite) {
     if (candidate && nextSite == lists.List1.ListCount())
         return;
     if (candidate && lists.List1.Selected(nextSite)) {
-        if (candidate->disabled)
+        if (candidate->Disabled())
             parts.result.Explain(nextSite, u"not sent, because the channel that was next is disabled"_s);
         else
             candidate->Claim(request, lists.SiteName(nextSite), nextSite);
@@ -87,7 +84,7 @@ void ChannelBank::Connect(const SiteRequest &request, int nextSite) {
 void ChannelBank::CheckChannelTimeouts() {
     for (const auto &channel : channels) {
         const double limit = LimitSeconds(parts.txtLimit);
-        if (!channel->free && channel->Expired(limit))
+        if (!channel->Free() && channel->Expired(limit))
             channel->TimeOut(limit);
     }
 }
@@ -101,7 +98,7 @@ std::chrono::milliseconds ChannelBank::UntilNextTimeout() const {
     const double limit = LimitSeconds(parts.txtLimit);
     double seconds = longestWaitSeconds;
     for (const auto &channel : channels) {
-        if (!channel->free)
+        if (!channel->Free())
             seconds = std::min(seconds, channel->SecondsLeft(limit));
     }
     // The watchdog wants the moment to be past, not reached.

@@ -27,6 +27,12 @@ void SubmissionChannel::ClearDisplay() {
     parts.display.site.SetCaption(QString());
 }
 
+void SubmissionChannel::Prepare() {
+    ClearDisplay();
+    free = true;
+    SwitchOn();
+}
+
 void SubmissionChannel::SwitchOn() {
     parts.client->SetRequestSwitchA(true);
     parts.client->SetRequestSwitchB(true);

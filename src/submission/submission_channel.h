@@ -38,11 +38,10 @@ public:
 
     /// Readies the channel for a run.
     void BeginRun();
-    /// Empties the displays.
+    /// Empties the displays, and no more.
     void ClearDisplay();
-
-    /// Switches on the two request switches of the client.
-    void SwitchOn();
+    /// Empties the displays, frees the channel and switches on the two request switches of its client.
+    void Prepare();
 
     /// Takes the site of this name at `listIndex` of List1 and begins its exchange.
     void Claim(const SiteRequest &siteRequest, const QString &name, int listIndex);
@@ -65,38 +64,40 @@ public:
     /// "Disable": turns the entry's mark and `disabled` around.
     void mnuDisabled_Click();
 
+    HttpClient &Client() { return *parts.client; }
+    bool Ended() const { return closed || completed; }
+    bool Free() const { return free; }
+    bool Disabled() const { return disabled; }
+
+private:
+    void SwitchOn();
+
+    void OnConnected();
+    void OnData(const QByteArray &block);
+    void OnDone();
+    void OnError();
+    bool AnswerIsFailure() const;
     /// Records a failure of the site, once a request. A site whose name is part of the name of one that has
     /// failed before is not listed and doesn't count; its channel is then closed, but only the watchdog frees
     /// it.
     void RecordFailure(const QString &reason);
     /// Adds the site to the successful ones.
     void RecordSuccess();
-
-    HttpClient &Client() { return *parts.client; }
-    bool Ended() const { return closed || completed; }
-
-    bool free =
-        true; ///< the wait loops count on it: raised by an end or Cancel, lowered by Claim and Connected
-    bool completed = false;      ///< an answer was accepted as the end of the request; lowered by Claim
-    bool closed = true;          ///< the request has failed, or the run has just begun; lowered by Claim
-    bool disabled = false;       ///< takes no site; lowered at the start of a run
-    int siteIndex = 0;           ///< List1 index of the site that the channel carries
-    int lastFailedSite = noSite; ///< index of the last failure recorded here
-
-private:
-    void OnConnected();
-    void OnData(const QByteArray &block);
-    void OnDone();
-    void OnError();
-    bool AnswerIsFailure() const;
     void NoteVerdict(Verdict verdict, const QString &reason);
 
     Parts parts;
     HttpHeader header;
+    bool free =
+        true; ///< the wait loops count on it: raised by an end or Cancel, lowered by Claim and Connected
+    bool completed = false; ///< an answer was accepted as the end of the request; lowered by Claim
+    bool closed = true;     ///< the request has failed, or the run has just begun; lowered by Claim
+    bool disabled = false;  ///< takes no site; lowered at the start of a run
     SiteRequest request;
-    QString siteName;        ///< as it stands in List1
-    int startSecond = 0;     ///< Clock::Timer at dispatch, rounded
-    bool firstChunk = false; ///< no data has come for this request yet
+    QString siteName;            ///< as it stands in List1
+    int siteIndex = 0;           ///< its place there
+    int lastFailedSite = noSite; ///< index of the last failure recorded here
+    int startSecond = 0;         ///< Clock::Timer at dispatch, rounded
+    bool firstChunk = false;     ///< no data has come for this request yet
     QString redirectTarget;
 };
 

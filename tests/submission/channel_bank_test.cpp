@@ -139,7 +139,7 @@ TEST_F(ChannelBankTest, ASiteWhoseNameIsPartOfAFailedOneIsSwallowed) {
     WhenWaiting([&] {
         Fail(1);
         Fail(2);
-        EXPECT_TRUE(Channel(2).closed && !Channel(2).free); // only the watchdog frees it
+        EXPECT_TRUE(Channel(2).Ended() && !Channel(2).Free()); // only the watchdog frees it
     });
     PressSubmit();
     EXPECT_EQ(Failed(), QStringList{u"AltaVista"_s});
@@ -192,7 +192,7 @@ TEST_F(ChannelBankTest, DisableLosesTheSitesBehindTheLowestEndedChannel) {
     EXPECT_EQ(Result().SuccessfulCount(), 8);
     EXPECT_EQ(Form().channels[0].disableMark.Value(), 1);
     Run().mnuDisabled_Click(1);
-    EXPECT_TRUE(Channel(1).disabled);
+    EXPECT_TRUE(Channel(1).Disabled());
     EXPECT_EQ(Form().channels[0].disableMark.Value(), 0);
 }
 
@@ -203,7 +203,7 @@ TEST_F(ChannelBankTest, AbortAsksTheClientAndChangesNothingElse) {
     WhenWaiting([&] {
         Run().kan_Click(1);
         Run().mnuAbort_Click(1);
-        EXPECT_FALSE(Channel(1).free);
+        EXPECT_FALSE(Channel(1).Free());
         Fail(1); // what the real client raises at the next turn
     });
     PressSubmit();

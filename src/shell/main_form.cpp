@@ -23,11 +23,8 @@ MainForm::MainForm(const Parts &theParts) : parts(theParts) {
     AddToForm(*this, lblAboutVersion, u"lblAboutVersion"_s);
     VerzijaPrograma.SetCaption(windowVersion);
     lblAboutVersion.SetCaption(aboutVersion);
-    FollowEntry(2, parts.modes.mnuUpgrade);
     FollowEntry(3, parts.files.mnuFileNew);
     FollowEntry(4, parts.files.mnuFileOpen);
-    FollowEntry(7, parts.modes.mnuTechnical);
-    FollowEntry(8, parts.modes.mnuTopEngines);
 }
 
 void MainForm::FollowEntry(int index, const Control &entry) {

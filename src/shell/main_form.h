@@ -6,6 +6,7 @@
 #include "ports/help_viewer.h"
 #include "project/project_files.h"
 #include "reports/report_documents.h"
+#include "settings/settings_form.h"
 #include "settings/web_browser_form.h"
 #include "shell/mode_commands.h"
 #include "shell/welcome_form.h"
@@ -72,7 +73,7 @@ public:
 
     QString helpFile; ///< of the application, set at its start; only the name is tested before it is opened
 
-    /// The toolbar, named SSRibbon1_0 to SSRibbon1_8. Each button is enabled as its menu entry is.
+    /// The toolbar, named SSRibbon1_0 to SSRibbon1_8. Those of New and Open are enabled as their entries are.
     std::array<Button, ribbonButtons> SSRibbon1;
     Label VerzijaPrograma; ///< the version beside the pane buttons; support messages quote it
     Label lblAboutVersion; ///< the version in FrameAbout

@@ -1,48 +1,45 @@
 #pragma once
 
-#include "controls/control.h"
 #include "project/main_frame.h"
-#include "project/project_record.h"
-#include "submission/submission_run.h"
+#include "submission/run_extensions.h"
 
 #include <functional>
 
 namespace lanterra {
 
-/// The modes beside the automated run, and the menu entries that lead to them. An entry is disabled until the
-/// part of the program that carries it out is joined.
-class ModeCommands : public QObject, public SubmissionModes {
-    Q_OBJECT
-
+/// The modes beside the automated run, and the menu entries that lead to them. What carries them out is made
+/// behind the run and the main form, which both lead there, and so is joined afterwards.
+class ModeCommands : public SubmissionModes {
 public:
-    using Action = std::function<void()>;
+    struct Actions {
+        std::function<void()> topEngines;
+        std::function<void()> multipleUrls; ///< the job; its form is shown by SSCommand7
+        std::function<void()> semiPage;
+        std::function<void()> upgradeCheck;
+        std::function<void()> supportForm;
+    };
 
-    /// Becomes the modes of the run. All must outlive this.
-    ModeCommands(SubmissionRun &submissionRun, MainFrame &mainFrame, ProjectRecord &projectRecord);
+    /// The frame must outlive this.
+    explicit ModeCommands(MainFrame &mainFrame) : frame(mainFrame) {}
 
-    // Each joins one mode and enables what leads to it. What the action uses must live as long as this.
-    void JoinTopEngines(Action submit);
-    void JoinMultipleUrls(Action submit); ///< the job; its form is shown by SSCommand7
-    void JoinSemiPage(Action write);
-    void JoinUpgrade(Action checkNow);
-    void JoinSupport(Action showForm);
+    /// Comes before any other call. All five must be there, and what they use must live as long as this.
+    void Join(Actions allActions) { actions = std::move(allActions); }
 
-    // These yield as far as the joined action does, and do nothing without one.
+    // All of these yield as far as their action does.
     void mnuTopEngines_Click() { SubmitTopEngines(); }
-    void mnuUpgrade_Click();
-    void mnuTechnical_Click();
+    void mnuTechnical_Click() { actions.supportForm(); }
+    void mnuUpgrade_Click() {
+        frame.SetPointer(MousePointer::Default);
+        actions.upgradeCheck();
+    }
 
-    void SubmitMultipleUrls() override;
-    void SubmitTopEngines() override;
-    void WriteSemiPage() override;
-
-    Control mnuTopEngines, mnuUpgrade, mnuTechnical;
-    Control mnuTop9, mnuMultiple, mnuSemi; ///< entries of the popup of SUBMIT
+    void SubmitMultipleUrls() override { actions.multipleUrls(); }
+    void SubmitTopEngines() override { actions.topEngines(); }
+    void WriteSemiPage() override { actions.semiPage(); }
 
 private:
     MainFrame &frame;
-    Control &multipleButton;
-    Action topEngines, multipleUrls, semiPage, upgradeCheck, supportForm;
+    Actions actions;
 };
 
 } // namespace lanterra

@@ -39,8 +39,7 @@ Program::Program(const Doors &doors, const QString &programFolder)
       counter(doors.makeClient(), hosts, options, ScratchFile(project)),
       run({project, frame, frmStatus, files, frmSettings, proxy, channels, submitForm, collector, counter,
            result, report, statistics, viewer, doors.dialogs, doors.forms, doors.queue, doors.clock}),
-      modes(run, frame, project.record), urlSlots(project.record),
-      frmMulti(project.record, run, doors.dialogs),
+      modes(frame), urlSlots(project.record), frmMulti(project.record, run, doors.dialogs),
       multiUrlJob({project, frame, urlSlots, run, result, viewer, doors.dialogs, doors.forms, doors.queue,
                    doors.clock}),
       semiPage({project, frame, result, collector, hosts, viewer, run}),
@@ -65,12 +64,13 @@ Program::Program(const Doors &doors, const QString &programFolder)
       shutDown({startUp, project, frame, files, options, doors.dialogs, ScratchFile(project)}) {
     files.SetImport(&siteDatabaseUpdate);
     QObject::connect(&files, &ProjectFiles::ProgramEnds, &frame, &MainFrame::RequestClose);
-    modes.JoinMultipleUrls([this] { multiUrlJob.SubmitMultipleUrls(); });
-    modes.JoinTopEngines([this] { topEngines.SubmitTopEngines(); });
     QObject::connect(&proxy, &ProxySettings::ProxyGiven, &frmTop9.Spider1, &Spider::SetProxy);
-    modes.JoinSemiPage([this] { semiPage.RunMode(); });
-    modes.JoinSupport([this] { frmTechSupp.Show(); });
-    modes.JoinUpgrade([this] { UpgradeIt1.CheckNow(); });
+    modes.Join({.topEngines = [this] { topEngines.SubmitTopEngines(); },
+                .multipleUrls = [this] { multiUrlJob.SubmitMultipleUrls(); },
+                .semiPage = [this] { semiPage.RunMode(); },
+                .upgradeCheck = [this] { UpgradeIt1.CheckNow(); },
+                .supportForm = [this] { frmTechSupp.Show(); }});
+    run.SetModes(&modes);
     run.SetUpgradeCheck(&UpgradeIt1);
     multiUrlJob.SetUpgradeCheck(&UpgradeIt1);
     topEngines.SetUpgradeCheck(&UpgradeIt1);

@@ -8,6 +8,7 @@
 #include "settings/web_browser_form.h"
 #include "shell/main_form.h"
 #include "shell/splash_form.h"
+#include "submission/submission_run.h"
 
 namespace lanterra {
 

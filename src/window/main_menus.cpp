@@ -12,7 +12,6 @@ MainMenus::MainMenus(Ui::MainWindow &mainUi, Program &theProgram, WidgetForms &w
                      QMainWindow &mainWindow)
     : QObject(&mainWindow), ui(mainUi), program(theProgram), forms(widgetForms), window(mainWindow) {
     FormBinder(window).Bind(program.files);
-    FormBinder(window).Bind(program.modes);
     FormBinder(window).Bind(program.submitForm);
     JoinFileMenu();
     JoinViewMenu();

@@ -24,8 +24,8 @@ TEST_F(MainFormTest, PaneButtonsShowTheirPanesAndBringThemUpToDate) {
     EXPECT_EQ(record.HScroll1.Value(), 0);
     QObject::connect(&form, &MainForm::RibbonButtonUp,
                      [&](int index) { form.SSRibbon1_Click(index, false); });
-    program->modes.JoinTopEngines([&] { form.cmdDesc_Click(); });
-    form.SSRibbon1_Click(8, true); // pops up, and its command runs once
+    forms.onForm[ModalForm::TechSupp] = [&] { form.cmdDesc_Click(); };
+    form.SSRibbon1_Click(7, true); // pops up, and its command runs once
     form.cmdEngines_Click();
     form.Command14_Click();
     form.mnuHelpAbout_Click();

@@ -70,9 +70,9 @@ protected:
         const Program &parts = program->program;
         return {&parts.frame,         &parts.frmStatus,  &parts.frmSettings,      &parts.frmWebBrowser,
                 &parts.files,         &parts.frmReport,  &parts.frmProjectDialog, &parts.project.record,
-                &parts.project.lists, &parts.statistics, &parts.submitForm,       &parts.modes,
-                &parts.frmMulti,      &parts.frmWelcome, &parts.frmMain,          &parts.webSearch,
-                &parts.frmTechSupp,   &parts.frmTop9,    &parts.frmSplash};
+                &parts.project.lists, &parts.statistics, &parts.submitForm,       &parts.frmMulti,
+                &parts.frmWelcome,    &parts.frmMain,    &parts.webSearch,        &parts.frmTechSupp,
+                &parts.frmTop9,       &parts.frmSplash};
     }
 
     QList<QWidget *> forms;

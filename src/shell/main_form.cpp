@@ -1,6 +1,7 @@
 #include "shell/main_form.h"
 
 #include "support/numbers.h"
+#include "support/product.h"
 
 using namespace Qt::StringLiterals;
 
@@ -8,8 +9,7 @@ namespace lanterra {
 
 namespace {
 
-// Two constants on purpose: the number of the About pane is not kept in step with that of the window.
-const QString windowVersion = u"Version 2.14"_s;
+// On purpose not that of the window and of the splash form: the About pane keeps its older number.
 const QString aboutVersion = u"Version 2.13"_s;
 
 const QString limitWithoutNumber = u"20"_s; ///< seconds
@@ -21,7 +21,7 @@ MainForm::MainForm(const Parts &theParts) : parts(theParts) {
         AddToForm(*this, SSRibbon1[index], u"SSRibbon1_%1"_s.arg(index));
     AddToForm(*this, VerzijaPrograma, u"VerzijaPrograma"_s);
     AddToForm(*this, lblAboutVersion, u"lblAboutVersion"_s);
-    VerzijaPrograma.SetCaption(windowVersion);
+    VerzijaPrograma.SetCaption(VersionCaption());
     lblAboutVersion.SetCaption(aboutVersion);
     FollowEntry(3, parts.files.mnuFileNew);
     FollowEntry(4, parts.files.mnuFileOpen);

@@ -1,5 +1,7 @@
 #include "shell/splash_form.h"
 
+#include "support/product.h"
+
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
@@ -7,7 +9,7 @@ namespace lanterra {
 SplashForm::SplashForm() {
     SetVisible(false);
     AddToForm(*this, lblVersion, u"lblVersion"_s);
-    lblVersion.SetCaption(u"Version "_s + u"2.14"_s);
+    lblVersion.SetCaption(VersionCaption());
 }
 
 } // namespace lanterra

@@ -4,13 +4,9 @@ using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
-MainFrame::MainFrame() { AddToForm(*this, Notice, u"Notice"_s); }
-
-void MainFrame::SetVisible(bool show) {
-    if (visible == show)
-        return;
-    visible = show;
-    emit VisibleChanged(show);
+MainFrame::MainFrame() {
+    SetVisible(false);
+    AddToForm(*this, Notice, u"Notice"_s);
 }
 
 QString MainFrame::Caption() const { return u"Zephyrine Lanterra 2 - "_s + projectName; }

@@ -22,16 +22,13 @@ enum class Pane {
 enum class MousePointer { Default = 0, Arrow = 1, Hourglass = 11, WaitingArrow = 13, Busy = 99 };
 
 /// What belongs to the main window as a whole: whether it is there, its caption, the pane on view, its
-/// pointer.
-class MainFrame : public QObject {
+/// pointer. It is visible from the moment on when the start of the program has opened a project until its
+/// end.
+class MainFrame : public Control {
     Q_OBJECT
 
 public:
     MainFrame();
-
-    /// False until the start of the program has opened a project, and again at its end.
-    bool Visible() const { return visible; }
-    void SetVisible(bool show);
 
     /// Asks the face to end the program, as its close box does. Returns at once: the end comes when
     /// everything on the stack has returned.
@@ -50,7 +47,6 @@ public:
     void SetPointer(MousePointer newPointer);
 
 signals:
-    void VisibleChanged(bool visible);
     void CloseRequested();
     void CaptionChanged(const QString &caption);
     /// Also when the pane was on view already, so that it comes to the front.
@@ -58,7 +54,6 @@ signals:
     void PointerChanged(lanterra::MousePointer pointer);
 
 private:
-    bool visible = false;
     QString projectName;
     Pane shownPane = Pane::FrameAbout;
     MousePointer pointer = MousePointer::Default;

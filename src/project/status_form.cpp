@@ -6,12 +6,14 @@ using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
-StatusForm::StatusForm() { AddToForm(*this, Label1, u"Label1"_s); }
+StatusForm::StatusForm() {
+    SetVisible(false);
+    AddToForm(*this, Label1, u"Label1"_s);
+}
 
 void StatusForm::Show(const QString &text, int newMaximum) {
     if (depth++ > 0)
-        waiting.push_back({Label1.Caption(), maximum, value, StatusCancel, visible});
-    Caption.SetCaption(u"Submission status"_s);
+        waiting.push_back({Label1.Caption(), maximum, value, StatusCancel, Visible()});
     Take({text, std::max(newMaximum, 1), 0, false, true});
 }
 
@@ -43,13 +45,6 @@ void StatusForm::Finish() {
 void StatusForm::SSCommand1_Click() {
     StatusCancel = true;
     SetVisible(false);
-}
-
-void StatusForm::SetVisible(bool show) {
-    if (visible == show)
-        return;
-    visible = show;
-    emit VisibleChanged(show);
 }
 
 } // namespace lanterra

@@ -7,8 +7,9 @@
 namespace lanterra {
 
 /// frmStatus: the progress of a long job, with a Cancel that the job looks at between its steps. A job that
-/// begins in a yield of another one has the form to itself until it ends, its Cancel included.
-class StatusForm : public QObject {
+/// begins in a yield of another one has the form to itself until it ends, its Cancel included. Hidden while
+/// there is none.
+class StatusForm : public Control {
     Q_OBJECT
 
 public:
@@ -24,16 +25,13 @@ public:
 
     void SSCommand1_Click();
 
-    bool Visible() const { return visible; }
     int Maximum() const { return maximum; }
     int Value() const { return value; }
 
-    Label Caption;             ///< of the form
     Label Label1;              ///< what the job is
     bool StatusCancel = false; ///< the job stops early
 
 signals:
-    void VisibleChanged(bool visible);
     void ValueChanged(int value);
 
 private:
@@ -44,10 +42,8 @@ private:
         bool cancelled = false;
         bool visible = false;
     };
-    void SetVisible(bool show);
     void Take(const Job &job);
 
-    bool visible = false;
     int maximum = 1;
     int value = 0;
     int depth = 0;            ///< jobs that have begun and not ended

@@ -17,6 +17,7 @@
 
 #include <QCloseEvent>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QStyle>
 
 namespace lanterra {
@@ -47,6 +48,8 @@ void MainWindow::AddPanes(WidgetForms &forms) {
 }
 
 void MainWindow::AddPane(Pane pane, QWidget *widget, QPushButton *button) {
+    // What the pane has chosen to take the keys first; with the new parents it is forgotten.
+    QWidget *const first = widget->focusWidget();
     // A small screen scrolls what it can't show.
     auto *const scroll = new QScrollArea;
     scroll->setWidget(widget);
@@ -54,18 +57,28 @@ void MainWindow::AddPane(Pane pane, QWidget *widget, QPushButton *button) {
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus);
     ui->panes->addWidget(scroll);
+    if (first)
+        first->setFocus();
     panes[pane] = {scroll, button};
+}
+
+// Qt clicks a button a tenth of a second after its key was pressed, and a key of the new pane that is typed
+// meanwhile would be lost. These act at once.
+void MainWindow::JoinPaneButton(QPushButton *button, const std::function<void()> &show) {
+    button->setShortcut({});
+    new QShortcut(QKeySequence::mnemonic(button->text()), button, [button] { button->click(); });
+    connect(button, &QPushButton::clicked, this, show);
 }
 
 void MainWindow::JoinPaneButtons() {
     MainForm &form = program.frmMain;
-    connect(ui->cmdKeyword, &QPushButton::clicked, this, [&form] { form.cmdKeyword_Click(); });
-    connect(ui->cmdDesc, &QPushButton::clicked, this, [&form] { form.cmdDesc_Click(); });
-    connect(ui->cmdEngines, &QPushButton::clicked, this, [&form] { form.cmdEngines_Click(); });
-    connect(ui->Command14, &QPushButton::clicked, this, [&form] { form.Command14_Click(); });
-    connect(ui->cmdSubmit, &QPushButton::clicked, this, [&form] { form.cmdSubmit_Click(); });
-    connect(ui->cmdOrder, &QPushButton::clicked, this, [this] { program.statistics.cmdOrder_Click(); });
-    connect(ui->Command5, &QPushButton::clicked, this, [this] { program.webSearch.Command5_Click(); });
+    JoinPaneButton(ui->cmdKeyword, [&form] { form.cmdKeyword_Click(); });
+    JoinPaneButton(ui->cmdDesc, [&form] { form.cmdDesc_Click(); });
+    JoinPaneButton(ui->cmdEngines, [&form] { form.cmdEngines_Click(); });
+    JoinPaneButton(ui->Command14, [&form] { form.Command14_Click(); });
+    JoinPaneButton(ui->cmdSubmit, [&form] { form.cmdSubmit_Click(); });
+    JoinPaneButton(ui->cmdOrder, [this] { program.statistics.cmdOrder_Click(); });
+    JoinPaneButton(ui->Command5, [this] { program.webSearch.Command5_Click(); });
 }
 
 void MainWindow::JoinFrame() {

@@ -3,6 +3,8 @@
 #include "shell/program.h"
 
 #include <QMainWindow>
+#include <functional>
+#include <map>
 #include <memory>
 
 class QPushButton;
@@ -21,7 +23,7 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// Makes the window, hidden; it shows itself when the program's frame is visible.
+    /// Makes the window, hidden; it shows itself when the program's frame is visible. Both must outlive it.
     MainWindow(Program &theProgram, WidgetForms &widgetForms);
     ~MainWindow() override;
     Q_DISABLE_COPY_MOVE(MainWindow)
@@ -38,6 +40,7 @@ private:
     void AddPanes(WidgetForms &forms);
     void AddPane(Pane pane, QWidget *widget, QPushButton *button);
     void JoinPaneButtons();
+    void JoinPaneButton(QPushButton *button, const std::function<void()> &show);
     void JoinFrame();
     void ShowPane(Pane pane);
     void ShowPointer(MousePointer pointer);

@@ -31,6 +31,7 @@ SubmitPane::SubmitPane(Program &program, WidgetForms &forms) : ui(std::make_uniq
     JoinButtons(program);
     forms.SetMenuButton(PopupMenu::Submit, *ui->cmdStart);
     forms.SetMenuButton(PopupMenu::Cancel2, *ui->cmdCancel);
+    ui->cmdStart->setFocus(); // and not channel 1, which stands before it
 }
 
 SubmitPane::~SubmitPane() = default;

@@ -1,5 +1,7 @@
 #include "tests/window/window_fixture.h"
 
+#include "support/whole_file.h"
+
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,6 +20,13 @@ protected:
         for (const QString &entry : entries.split(u';'))
             steps.push_back({At(entry.section(u'=', 0, 0)), Types(entry.section(u'=', 1) + u'\t')});
         return steps;
+    }
+
+    static Action PressesInOneGo(Qt::Key first, Qt::Key second) {
+        return [first, second] {
+            Presses(first, Qt::AltModifier)();
+            Presses(second, Qt::AltModifier)();
+        };
     }
 
     /// The screen is filled behind its opening.
@@ -46,11 +55,11 @@ protected:
         return values;
     }
 
+    const std::vector<Step> makesAProject{{Up("WelcomeDialog"), Presses(Qt::Key_Return)},
+                                          {Up("ProjectStartDialog"), Presses(Qt::Key_Return)},
+                                          {Asked("Create a new project"), Types("Shop\n")}};
     const std::vector<Step> typesTheProject =
-        std::vector<Step>{{Up("WelcomeDialog"), Presses(Qt::Key_Return)},
-                          {Up("ProjectStartDialog"), Presses(Qt::Key_Return)},
-                          {Asked("Create a new project"), Types("Shop\n")},
-                          {Up("MainWindow"), Presses(Qt::Key_D, Qt::AltModifier)},
+        std::vector<Step>{{Up("MainWindow"), Presses(Qt::Key_D, Qt::AltModifier)},
                           {Up("DescriptionPane"), Presses(Qt::Key_L, Qt::AltModifier)}} +
         Fills(u"txtURL=www.shop.example/;txtTitle=Hats & more;txtKey1=hats;txtKey2=caps;txtKey3=felt;"
               "txtKey4=wool;txtKey5=straw;txtKey6=brims;txtDesc=Hats for all heads"_s) +
@@ -63,14 +72,13 @@ protected:
         {Up("SitesPane"), Clicks("SitesPane", "Command2")},
         {Menu("Select Sites"), Chooses("Search Engines")},
         {Up("SitesPane"), ClicksMark("SitesPane", "List1", "Gablewood")},
-        {Up("SitesPane"), Presses(Qt::Key_U, Qt::AltModifier)},
-        {Up("SubmitPane"), Presses(Qt::Key_B, Qt::AltModifier)},
+        {Up("SitesPane"), PressesInOneGo(Qt::Key_U, Qt::Key_B)},
         {Menu("Submit"), Presses(Qt::Key_U)},
         {Box("You must select a valid category for Gablewood"), Presses(Qt::Key_Return)},
         {Up("CategoryPane"), Clicks("CategoryPane", "txttrazim")},
         {At("txttrazim"), Types("business\n")},
         {Up("CategoryPane"), Presses(Qt::Key_U, Qt::AltModifier)},
-        {Up("SubmitPane"), Clicks("SubmitPane", "cmdStart")},
+        {At("cmdStart"), Presses(Qt::Key_Space)},
         {Menu("Submit"), Chooses("Automated Search Engines")}};
 };
 
@@ -78,7 +86,7 @@ TEST_F(FirstUserTest, GetsFromTheWelcomeToAReportAndFindsAllAgain) {
     GivenMaster({u"Quillfind"_s, u"Harbor"_s, u"Foxgloam"_s, u"Marrowind"_s, u"Cindertrail"_s, u"Wickerbot"_s,
                  u"Kestrelweb"_s, u"Gablewood"_s, u"Brindle's Guide"_s, u"Link Lagoon"_s});
     QString report;
-    Play(typesTheProject + submits +
+    Play(makesAProject + typesTheProject + submits +
          std::vector<Step>{{RunEnded(), Presses(Qt::Key_V, Qt::AltModifier)},
                            {Menu("View"), Presses(Qt::Key_R)},
                            {ReportUp(), [&] { report = ReportText(); }},
@@ -111,6 +119,32 @@ TEST_F(FirstUserTest, GetsFromTheWelcomeToAReportAndFindsAllAgain) {
     Play({{Up("MainWindow"), Presses(Qt::Key_T, Qt::AltModifier)}, {Up("StatisticsPane"), lookAround}});
     EXPECT_EQ(found, u"1|5|3|8|http://www.shop.example/|555|business|Hats for all heads|Selected 29/31|"
                      "Zephyrine Lanterra 2 - Shop"_s);
+}
+
+TEST_F(FirstUserTest, WritesToTheSupport) {
+    GivenMaster({u"Quillfind"_s});
+    ASSERT_TRUE(WriteWholeFile(Path("hosts.ini"),
+                               "[Maker]\nSupportMail=help@maker.example\nFormMail=" + park.Origin().toUtf8() +
+                                   "/cgi-bin/cgiwrap/lanterra/programs/formmail_real.cgi\n"));
+    const Action submit = Presses(Qt::Key_S, Qt::AltModifier);
+    Play(makesAProject +
+         std::vector<Step>{{Up("MainWindow"), Presses(Qt::Key_H, Qt::AltModifier)},
+                           {Menu("Help"), Presses(Qt::Key_T)}} +
+         Fills(u"usName=Ann;Email=ann"_s) +
+         std::vector<Step>{{At("Problem"), submit},
+                           {Box("Please fill all text fields !"), Presses(Qt::Key_Return)}} +
+         Fills(u"Problem=It stops & waits;OS=NT;Computer=486"_s) +
+         std::vector<Step>{{At("Other"), submit},
+                           {Box("Please enter your full e-mail address!"), Presses(Qt::Key_Return)},
+                           {At("Other"), Presses(Qt::Key_E, Qt::AltModifier)},
+                           {At("Email"), Types("ann@shop.example")},
+                           {At("Email"), submit},
+                           {Box("Thank you for your message!"), Presses(Qt::Key_Return)},
+                           {At("Email"), Presses(Qt::Key_Escape)},
+                           {Up("MainWindow"), ClosesWindow()}});
+    EXPECT_EQ(SentTo(u"Form mail"_s).join(u'|'),
+              u"help@maker.example|LT Technical Support Version 2.14||Ann|ann@shop.example|It stops & waits|"
+              "NT|486|No comments|Ann"_s);
 }
 
 } // namespace

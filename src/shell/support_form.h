@@ -23,8 +23,7 @@ class SupportForm : public Control {
 
 public:
     struct Parts {
-        const Hosts
-            &hosts; ///< FormMail and SupportMail in section [Maker]; nothing is sent without the first
+        const Hosts &hosts; ///< [Maker] FormMail and SupportMail; nothing is sent without the first
         ProxySettings &proxy;
         MainFrame &frame;
         const Label &version; ///< is quoted in the message

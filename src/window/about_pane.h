@@ -16,6 +16,7 @@ class AboutPane : public QWidget {
     Q_OBJECT
 
 public:
+    /// The program must outlive this.
     explicit AboutPane(Program &program);
     ~AboutPane() override;
     Q_DISABLE_COPY_MOVE(AboutPane)

@@ -16,8 +16,8 @@ public:
 
     /// Joins every named child of the model for which the form has a widget or an action; the others are
     /// passed over, because a model can be spread over several forms, and so is what a part of the form has
-    /// joined already. A widget of an unfitting class is a
-    /// fault of the form and ends the program. The model must outlive the form.
+    /// joined already. A widget of an unfitting class is a fault of the form and ends the program. The model
+    /// must outlive the form.
     void Bind(const QObject &model) const;
 
 private:

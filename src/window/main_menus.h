@@ -17,7 +17,7 @@ namespace lanterra {
 class WidgetForms;
 
 /// Joins the entries of the menu bar, the toolbar and the popup menus to their handlers. The main window owns
-/// it.
+/// it; all else that it is given must outlive the window.
 class MainMenus : public QObject {
     Q_OBJECT
 

@@ -17,6 +17,7 @@ class StatusDialog : public QDialog {
     Q_OBJECT
 
 public:
+    /// The form must outlive this.
     StatusDialog(StatusForm &statusForm, QWidget *parent);
     ~StatusDialog() override;
     Q_DISABLE_COPY_MOVE(StatusDialog)

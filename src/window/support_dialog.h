@@ -16,6 +16,7 @@ class SupportDialog : public FormDialog {
     Q_OBJECT
 
 public:
+    /// The form must outlive this.
     SupportDialog(SupportForm &form, QWidget *parent);
     ~SupportDialog() override;
     Q_DISABLE_COPY_MOVE(SupportDialog)

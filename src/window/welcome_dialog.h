@@ -16,6 +16,7 @@ class WelcomeDialog : public FormDialog {
     Q_OBJECT
 
 public:
+    /// The form must outlive this.
     WelcomeDialog(WelcomeForm &form, QWidget *parent);
     ~WelcomeDialog() override;
     Q_DISABLE_COPY_MOVE(WelcomeDialog)

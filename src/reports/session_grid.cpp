@@ -6,6 +6,16 @@ using namespace Qt::StringLiterals;
 
 namespace lanterra {
 
+namespace {
+
+// As markup, so that names in the text aren't taken for such, and so that a long text wraps.
+QString ToolTip(const QString &text) {
+    const QString line = text.trimmed().replace("\r\n"_L1, ", "_L1);
+    return line.isEmpty() ? QString() : u"<p>%1</p>"_s.arg(line.toHtmlEscaped());
+}
+
+} // namespace
+
 const QStringList &SessionGrid::Fields() {
     static const QStringList fields{u"Date"_s,
                                     u"PageUrl"_s,
@@ -37,9 +47,11 @@ int SessionGrid::rowCount(const QModelIndex &parent) const {
 int SessionGrid::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : fieldCount; }
 
 QVariant SessionGrid::data(const QModelIndex &index, int role) const {
-    if (!index.isValid() || role != Qt::DisplayRole)
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
         return {};
-    return rows.at(static_cast<std::size_t>(index.row())).at(static_cast<std::size_t>(index.column()));
+    const QString &text =
+        rows.at(static_cast<std::size_t>(index.row())).at(static_cast<std::size_t>(index.column()));
+    return role == Qt::DisplayRole ? text : ToolTip(text);
 }
 
 QVariant SessionGrid::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -9,7 +9,8 @@ namespace lanterra {
 
 class DataControl;
 
-/// A read-only table of the sessions: one column a field of table "Stats", in stored order.
+/// A read-only table of the sessions: one column a field of table "Stats", in stored order. Its tool tips
+/// hold what a narrow cell can't show.
 class SessionGrid : public QAbstractTableModel {
     Q_OBJECT
 

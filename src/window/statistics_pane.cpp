@@ -11,8 +11,22 @@ namespace lanterra {
 
 namespace {
 
-/// In pixels of 96 dpi, in the order of the fields.
-constexpr std::array<int, SessionGrid::fieldCount> columnWidths{170, 220, 180, 75, 95, 65, 60, 260, 260};
+/// In pixels of 96 dpi, in the order of the fields; the columns without a width share what is left. All nine
+/// fit into a window of 1000 pixels.
+constexpr std::array<int, SessionGrid::fieldCount> columnWidths{132, 0, 0, 74, 90, 60, 52, 100, 100};
+
+void SetUpHeader(QHeaderView &header) {
+    for (int column = 0; column < SessionGrid::fieldCount; ++column) {
+        const int width = columnWidths.at(static_cast<std::size_t>(column));
+        if (width > 0)
+            header.resizeSection(column, width);
+        else
+            header.setSectionResizeMode(column, QHeaderView::Stretch);
+    }
+    header.setHighlightSections(false);
+    header.setDefaultAlignment(Qt::Alignment::fromInt(Qt::AlignCenter | Qt::TextWordWrap));
+    header.setMinimumHeight(header.sizeHint().height() + header.fontMetrics().lineSpacing()); // for two lines
+}
 
 } // namespace
 
@@ -22,9 +36,7 @@ StatisticsPane::StatisticsPane(Program &program) : ui(std::make_unique<Ui::Stati
     ApplyIcons(*this);
     ui->DBGrid1->verticalHeader()->hide();
     ui->DBGrid1->setWordWrap(false);
-    for (int column = 0; column < SessionGrid::fieldCount; ++column)
-        ui->DBGrid1->setColumnWidth(column, columnWidths.at(static_cast<std::size_t>(column)));
-    ui->DBGrid1->horizontalHeader()->setHighlightSections(false);
+    SetUpHeader(*ui->DBGrid1->horizontalHeader());
     new EmptyHint(*ui->DBGrid1, tr("No run was made yet. Each run of this project adds a row."));
     connect(ui->Command10, &QPushButton::clicked, this, [&program] { program.statistics.Command10_Click(); });
 }

@@ -51,6 +51,7 @@ TEST_F(StatisticsTest, ShowsSessionsWithTheirTotals) {
     for (int column = 1; column < SessionGrid::fieldCount; ++column)
         EXPECT_EQ(Cell(0, column), first.at(column - 1));
     EXPECT_EQ(Cell(1, 6) + Cell(1, 8), u"-86000Alta\r\n"_s);
+    EXPECT_EQ(Stats().DBGrid1.data(Stats().DBGrid1.index(0, 7), Qt::ToolTipRole), u"<p>Alta, Beta</p>"_s);
 }
 
 TEST_F(StatisticsTest, ClearAsksAndThePaneFollowsWhenItOpensAgain) {

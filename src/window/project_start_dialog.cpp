@@ -2,7 +2,6 @@
 
 #include "ui_project_start_dialog.h"
 #include "window/form_binder.h"
-#include "window/icons.h"
 
 namespace lanterra {
 
@@ -13,6 +12,7 @@ ProjectStartDialog::ProjectStartDialog(ProjectDialog &form, QWidget *parent)
     Follow(form);
     connect(ui->cmdOK, &QPushButton::clicked, this, [&form] { form.cmdOK_Click(); });
     connect(ui->List1, &QListView::doubleClicked, this, [&form] { form.List1_DblClick(); });
+    ui->cmdOK->setFocus(); // so that what Return presses is seen at once
     // Who picks a file wants to open it.
     connect(&form.List1, &ListBox::Clicked, ui->Option2, &QRadioButton::click);
 }

@@ -2,7 +2,6 @@
 
 #include "ui_settings_dialog.h"
 #include "window/form_binder.h"
-#include "window/icons.h"
 
 namespace lanterra {
 

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QTextCursor>
+#include <QTextTable>
 
 using namespace Qt::StringLiterals;
 
@@ -14,10 +16,37 @@ namespace {
 
 constexpr int fileRole = Qt::UserRole;
 constexpr int indexWidth = 230;
+constexpr int pageMargin = 20; // px
+constexpr int cellPadding = 6;
+constexpr int lineHeight = 125; // percent
 
 QString ReadText(const QString &fileName) {
     QFile file(fileName);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// Markdown knows no room around a text, between its lines or in the cells of a table.
+void GiveRoom(QTextDocument &page, const QBrush &line) {
+    page.setDocumentMargin(pageMargin);
+    QTextBlockFormat spaced;
+    spaced.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
+    QTextCursor whole(&page);
+    whole.select(QTextCursor::Document);
+    whole.mergeBlockFormat(spaced);
+    for (QTextFrame *const frame : page.rootFrame()->childFrames()) {
+        auto *const table = qobject_cast<QTextTable *>(frame);
+        if (!table)
+            continue;
+        QTextTableFormat format = table->format();
+        format.setCellPadding(cellPadding);
+        format.setCellSpacing(0);
+        format.setBorderCollapse(true);
+        format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+        format.setBorderBrush(line);
+        format.setTopMargin(cellPadding);
+        format.setBottomMargin(cellPadding);
+        table->setFormat(format);
+    }
 }
 
 } // namespace
@@ -30,6 +59,7 @@ HelpWindow::HelpWindow(QWidget *parent) : QDialog(parent), ui(std::make_unique<U
     ui->splitter->setStretchFactor(1, 1);
     connect(ui->index->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &current) { ShowPage(current.data(fileRole).toString()); });
+    connect(ui->page, &QTextBrowser::sourceChanged, this, &HelpWindow::MarkPage);
     connect(ui->back, &QPushButton::clicked, ui->page, &QTextBrowser::backward);
     connect(ui->forward, &QPushButton::clicked, ui->page, &QTextBrowser::forward);
     connect(ui->page, &QTextBrowser::backwardAvailable, ui->back, &QPushButton::setEnabled);
@@ -67,8 +97,15 @@ void HelpWindow::ListPages(const QString &indexPage) {
 }
 
 void HelpWindow::ShowPage(const QString &file) {
-    if (!file.isEmpty())
+    if (!file.isEmpty() && file != ui->page->source().toLocalFile())
         ui->page->setSource(QUrl::fromLocalFile(file), QTextDocument::MarkdownResource);
+}
+
+void HelpWindow::MarkPage(const QUrl &shown) {
+    GiveRoom(*ui->page->document(), palette().mid());
+    const QModelIndexList found =
+        pages.match(pages.index(0, 0), fileRole, shown.toLocalFile(), 1, Qt::MatchExactly);
+    ui->index->setCurrentIndex(found.value(0));
 }
 
 } // namespace lanterra

@@ -27,6 +27,7 @@ public:
 private:
     void ListPages(const QString &indexPage);
     void ShowPage(const QString &file);
+    void MarkPage(const QUrl &shown);
 
     QStandardItemModel pages;
     std::unique_ptr<Ui::HelpWindow> ui;

@@ -67,7 +67,10 @@ TEST_F(WindowProgramTest, TheHelpIsShownOrABoxTellsWhyNot) {
         auto &index = Find<QListView>(u"HelpWindow"_s, u"index"_s);
         EXPECT_GT(index.model()->rowCount(), 3);
         index.setCurrentIndex(index.model()->index(1, 0));
-        EXPECT_FALSE(Find<QTextBrowser>(u"HelpWindow"_s, u"page"_s).toPlainText().isEmpty());
+        auto &page = Find<QTextBrowser>(u"HelpWindow"_s, u"page"_s);
+        EXPECT_FALSE(page.toPlainText().isEmpty());
+        page.backward();
+        EXPECT_FALSE(index.currentIndex().isValid()) << "the index page stands in no list of pages";
         program->program.frmMain.helpFile.clear();
         Presses(Qt::Key_Escape)();
         program->program.frmMain.mnuHelpContents_Click();

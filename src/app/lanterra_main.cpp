@@ -63,6 +63,13 @@ int RunWindow(int argc, char **argv, const QCommandLineParser &parser) {
     return EXIT_SUCCESS;
 }
 
+/// What is wrong with the arguments; empty if nothing is.
+QString WrongUse(QCommandLineParser &parser, const QStringList &arguments) {
+    if (!parser.parse(arguments))
+        return parser.errorText();
+    return parser.positionalArguments().size() > 1 ? u"One project at most."_s : QString();
+}
+
 } // namespace
 
 // Help and version need no display, so the arguments are read before the application is made.
@@ -72,10 +79,8 @@ int main(int argc, char **argv) {
         arguments << QString::fromLocal8Bit(argv[i]);
     QCommandLineParser parser;
     AddOptions(parser);
-    if (!parser.parse(arguments) || parser.positionalArguments().size() > 1) {
-        Print(stderr, u"lanterra: "_s +
-                          (parser.errorText().isEmpty() ? u"One project at most."_s : parser.errorText()) +
-                          u" Help: lanterra --help"_s);
+    if (const QString wrong = WrongUse(parser, arguments); !wrong.isEmpty()) {
+        Print(stderr, u"lanterra: %1 Help: lanterra --help"_s.arg(wrong));
         return wrongUse;
     }
     if (parser.isSet(u"version"_s)) {

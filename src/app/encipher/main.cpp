@@ -1,8 +1,7 @@
 // Enciphers readable sources for the build:
 //
-//   lanterra_encipher values IN OUT      each line NAME=TEXT becomes NAME= and the enciphered text; empty
-//   lines
-//                                        and comments (#) are left out
+//   lanterra_encipher values IN OUT      each line NAME=TEXT becomes NAME= and the enciphered text; comments
+//                                        (#) and empty lines are left out
 //   lanterra_encipher lines KEY IN OUT   the whole file, each line with CR LF behind it, under the key
 
 #include "support/sifrant.h"

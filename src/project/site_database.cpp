@@ -26,11 +26,8 @@ SiteDatabase::SiteDatabase(DatabaseFiles &databaseFiles, const ProjectPath &proj
 bool SiteDatabase::BindMaster() { return Bind(Data1, path.MasterFile(), u"Data"_s); }
 
 bool SiteDatabase::BindProject() {
-    if (IsSameFile(path.Base, path.MasterFile())) {
-        Data2.SetDatabaseName(QString());
-        return false;
-    }
-    return Bind(Data2, path.Base, u"Data"_s);
+    const bool isMaster = IsSameFile(path.Base, path.MasterFile());
+    return Bind(Data2, isMaster ? QString() : path.Base, u"Data"_s);
 }
 
 bool SiteDatabase::BindStats() {

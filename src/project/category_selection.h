@@ -10,6 +10,7 @@ namespace lanterra {
 /// is saved or not.
 class CategorySelection {
 public:
+    /// All must outlive this.
     CategorySelection(Project &openProject, Dialogs &messageDialogs, EventQueue &eventQueue)
         : project(openProject), dialogs(messageDialogs), queue(eventQueue) {}
 

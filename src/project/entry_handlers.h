@@ -9,6 +9,7 @@ namespace lanterra {
 /// leaving a box.
 class EntryHandlers {
 public:
+    /// Both must outlive this.
     EntryHandlers(ProjectRecord &projectRecord, Dialogs &messageDialogs)
         : record(projectRecord), dialogs(messageDialogs) {}
 

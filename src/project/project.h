@@ -9,6 +9,7 @@ namespace lanterra {
 
 /// The open project: where it lies, what it says, its lists and its bound data objects.
 struct Project {
+    /// `databaseFiles` must outlive this.
     Project(const QString &programFolder, DatabaseFiles &databaseFiles)
         : path(programFolder), database(databaseFiles, path) {}
 

@@ -20,6 +20,7 @@ class ProjectFiles : public QObject {
     Q_OBJECT
 
 public:
+    /// All must outlive this.
     struct Parts {
         Project &project;
         MainFrame &frame;
@@ -68,7 +69,7 @@ public:
     /// keeps the master's values. What went wrong also stands in the frame's notice. Yields.
     StoreResult SaveProject(const QString &source);
 
-    /// Stores the window's settings and offers to save a project that has no file yet.
+    /// Stores the window's settings and offers to save a project that has no file yet. Yields while it asks.
     void AskSaveProject();
 
     /// What the dialogs for an existing project start with. Creates the folder for projects.

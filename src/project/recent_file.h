@@ -15,12 +15,13 @@ class RecentFile : public QObject {
 public:
     static constexpr int limit = 5;
 
+    /// The store must outlive this.
     explicit RecentFile(SettingsStore &settingsStore) : store(settingsStore) {}
 
     /// Reads the stored list.
     void Load();
 
-    /// Moves the name to the top.
+    /// Moves the name to the top and stores the list. One that can't be stored counts until the program ends.
     void Add(const QString &fileName);
 
     /// The name at index 1 to 5, empty when there is none.

@@ -14,16 +14,17 @@ class DatabaseFiles;
 /// bound before.
 class SiteDatabase {
 public:
+    /// Both must outlive this.
     SiteDatabase(DatabaseFiles &databaseFiles, const ProjectPath &projectPath);
 
-    /// Binds Data1 to table "Data" of the master.
+    /// Binds Data1 to table "Data" of the master. False if that is no sound database; Data1 tells why.
     bool BindMaster();
 
     /// Binds Data2 to table "Data" of the file `Base`. False for a file that is no sound database, and for
     /// the master, which is never written.
     bool BindProject();
 
-    /// Gives Data3 the file of Data2 and table "Stats" if it has no file yet.
+    /// Gives Data3 the file of Data2 and table "Stats" if it has no file yet. False if it can't be read.
     bool BindStats();
 
     /// Closes all three and empties their names, so that no file stays open.

@@ -10,6 +10,7 @@ namespace lanterra {
 /// behind that and is started again by hand.
 class SiteDatabaseUpdate final : public SiteDatabaseImport {
 public:
+    /// All must outlive this.
     struct Parts {
         Project &project;
         MainFrame &frame;

@@ -10,6 +10,7 @@ namespace lanterra {
 /// after each.
 class SiteSelection {
 public:
+    /// Both must outlive this.
     SiteSelection(Project &openProject, EventQueue &eventQueue) : project(openProject), queue(eventQueue) {}
 
     void Command3_Click();  ///< "Clear"

@@ -9,6 +9,7 @@ namespace lanterra {
 /// Finds a project for the start of the program, and doesn't let go before there is one.
 class StartProject {
 public:
+    /// All must outlive this.
     StartProject(Project &openProject, ProjectFiles &projectFiles, Forms &formOpener, Dialogs &inputDialogs,
                  const EventQueue &eventQueue)
         : project(openProject), files(projectFiles), forms(formOpener), dialogs(inputDialogs),

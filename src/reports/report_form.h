@@ -20,6 +20,7 @@ class ReportForm : public Control {
     Q_OBJECT
 
 public:
+    /// All must outlive the form.
     struct Parts {
         Project &project;
         MainFrame &frame;

@@ -17,17 +17,18 @@ class Statistics : public QObject {
     Q_OBJECT
 
 public:
+    /// All must outlive this.
     Statistics(Project &openProject, MainFrame &mainFrame, Dialogs &messageDialogs, EventQueue &eventQueue,
                const Clock &systemClock);
 
-    /// Adds a row for the run that has just ended. False if it could not be stored.
+    /// Adds a row for the run that has just ended. False if it could not be stored; Data3 tells why.
     bool AppendSessionRow(const RunResult &result);
 
     /// Fills the labels and the grid and shows the pane. Yields after each row.
     void cmdOrder_Click();
 
-    /// "Clear": asks, and deletes all rows on Yes. The labels keep the old totals until the pane is opened
-    /// again.
+    /// "Clear": asks, and deletes all rows on Yes; a box tells if that failed. The labels keep the old totals
+    /// until the pane is opened again. Yields while it asks.
     void Command10_Click();
 
     Label Label42; ///< number of sessions

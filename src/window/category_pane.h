@@ -16,6 +16,7 @@ class CategoryPane : public QWidget {
     Q_OBJECT
 
 public:
+    /// The program must outlive the pane.
     explicit CategoryPane(Program &program);
     ~CategoryPane() override;
     Q_DISABLE_COPY_MOVE(CategoryPane)

@@ -16,6 +16,7 @@ class DescriptionPane : public QWidget {
     Q_OBJECT
 
 public:
+    /// The program must outlive the pane.
     explicit DescriptionPane(Program &program);
     ~DescriptionPane() override;
     Q_DISABLE_COPY_MOVE(DescriptionPane)

@@ -16,6 +16,7 @@ class OtherDataPane : public QWidget {
     Q_OBJECT
 
 public:
+    /// The program must outlive the pane.
     explicit OtherDataPane(Program &program);
     ~OtherDataPane() override;
     Q_DISABLE_COPY_MOVE(OtherDataPane)

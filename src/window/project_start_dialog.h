@@ -16,6 +16,7 @@ class ProjectStartDialog : public FormDialog {
     Q_OBJECT
 
 public:
+    /// The form must outlive the dialog.
     ProjectStartDialog(ProjectDialog &form, QWidget *parent);
     ~ProjectStartDialog() override;
     Q_DISABLE_COPY_MOVE(ProjectStartDialog)

@@ -17,6 +17,7 @@ class ReportDialog : public FormDialog {
     Q_OBJECT
 
 public:
+    /// The form must outlive the dialog.
     ReportDialog(ReportForm &reportForm, QWidget *parent);
     ~ReportDialog() override;
     Q_DISABLE_COPY_MOVE(ReportDialog)

@@ -16,6 +16,7 @@ class SettingsDialog : public FormDialog {
     Q_OBJECT
 
 public:
+    /// The form must outlive the dialog.
     SettingsDialog(SettingsForm &form, QWidget *parent);
     ~SettingsDialog() override;
     Q_DISABLE_COPY_MOVE(SettingsDialog)

@@ -18,6 +18,7 @@ class SitesPane : public QWidget {
     Q_OBJECT
 
 public:
+    /// Both must outlive the pane.
     SitesPane(Program &program, WidgetForms &forms);
     ~SitesPane() override;
     Q_DISABLE_COPY_MOVE(SitesPane)

@@ -16,6 +16,7 @@ class StatisticsPane : public QWidget {
     Q_OBJECT
 
 public:
+    /// The program must outlive the pane.
     explicit StatisticsPane(Program &program);
     ~StatisticsPane() override;
     Q_DISABLE_COPY_MOVE(StatisticsPane)

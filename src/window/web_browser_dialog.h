@@ -16,6 +16,7 @@ class WebBrowserDialog : public FormDialog {
     Q_OBJECT
 
 public:
+    /// The form must outlive the dialog.
     WebBrowserDialog(WebBrowserForm &form, QWidget *parent);
     ~WebBrowserDialog() override;
     Q_DISABLE_COPY_MOVE(WebBrowserDialog)

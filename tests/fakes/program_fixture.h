@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/whole_file.h"
 #include "tests/fakes/fake_doors.h"
 #include "tests/fakes/site_database_builder.h"
 #include "tests/qt_printing.h"
@@ -55,6 +56,11 @@ protected:
 
     /// The client of a channel, 1 to 5. The one of the hit counter is 6.
     FakeHttpClient &Client(int number) { return *clients.at(static_cast<std::size_t>(number - 1)); }
+
+    /// For the program that is started next.
+    void GivenHosts(const QByteArray &lines) const {
+        ASSERT_TRUE(WriteWholeFile(home.filePath(QStringLiteral("hosts.ini")), lines));
+    }
 
     /// The client to which this applies.
     template <class Condition>

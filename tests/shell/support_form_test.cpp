@@ -9,7 +9,7 @@ namespace {
 class SupportFormTest : public ProgramFixture {
 protected:
     void GivenForm(const QByteArray &hosts) {
-        ASSERT_TRUE(WriteWholeFile(home.filePath(u"hosts.ini"_s), hosts));
+        GivenHosts(hosts);
         GivenMaster(SiteDatabaseBuilder());
         program->frmSettings.chkProxy.SetValue(1);
         program->frmSettings.Text1.SetText(u"proxy.example"_s);

@@ -1,4 +1,3 @@
-#include "support/whole_file.h"
 #include "tests/fakes/program_fixture.h"
 #include "tests/wait_until.h"
 
@@ -10,7 +9,7 @@ namespace {
 class UpgradeItTest : public ProgramFixture {
 protected:
     void GivenAddress(const QByteArray &address = "http://maker.example/v") {
-        ASSERT_TRUE(WriteWholeFile(home.filePath(u"hosts.ini"_s), "[Upgrade]\nAddress=" + address + '\n'));
+        GivenHosts("[Upgrade]\nAddress=" + address + '\n');
         GivenSites({u"Alta"_s});
         List1().SetAllSelected(false);
         QObject::connect(&program->frame, &MainFrame::CloseRequested, [this] { ++closes; });

@@ -1,4 +1,3 @@
-#include "support/whole_file.h"
 #include "tests/shell/start_fixture.h"
 
 using namespace lanterra;
@@ -9,7 +8,7 @@ namespace {
 using WelcomeFormTest = StartFixture;
 
 TEST_F(WelcomeFormTest, SubscribesTheAddressAsItIsTypedAndTellsTheAnswer) {
-    WriteWholeFile(home.filePath(u"hosts.ini"_s), "[Maker]\nMailingList=http://127.0.0.1/\n");
+    GivenHosts("[Maker]\nMailingList=http://127.0.0.1/\n");
     MakeProgram();
     for (const QString &address : {u"anna"_s, u"z\u00F6e+b@"_s}) {
         program->frmWelcome.Text2.SetText(address);

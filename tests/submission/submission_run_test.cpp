@@ -292,10 +292,7 @@ TEST_F(SubmissionRunTest, OpensTheReportOnlyIfAskedAndNotWhenTheProgramCloses) {
 }
 
 TEST_F(SubmissionRunTest, TheCounterIsCalledAtItsFirstAddressUntilAnExchangeHasEnded) {
-    QFile hosts(home.filePath(u"hosts.ini"_s));
-    ASSERT_TRUE(hosts.open(QIODevice::WriteOnly));
-    hosts.write("[Counter]\nFirst=http://127.0.0.1/first\nLater=http://127.0.0.1/later\n");
-    hosts.close();
+    GivenHosts("[Counter]\nFirst=http://127.0.0.1/first\nLater=http://127.0.0.1/later\n");
     GivenSites(Numbered(1));
     EverySiteAnswers("200 OK");
     PressSubmit();

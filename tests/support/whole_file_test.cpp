@@ -1,7 +1,6 @@
 #include "support/text_file.h"
 #include "support/whole_file.h"
 #include "tests/file_bytes.h"
-#include "tests/file_size_limit.h"
 #include "tests/qt_printing.h"
 
 #include <QDir>
@@ -38,15 +37,6 @@ TEST_F(WholeFileTest, TakesThePlaceOfTheOldFileAtCommitOnly) {
     EXPECT_EQ(BytesOf(path), QByteArray("old"));
     EXPECT_TRUE(file.Commit());
     EXPECT_EQ(BytesOf(path), QByteArray("new text"));
-    EXPECT_EQ(Entries(), QStringList{u"page.htm"_s});
-}
-
-TEST_F(WholeFileTest, AFullDiskLeavesTheOldFile) {
-    for (const int size : {100, 5000, 100'000}) { // the small ones fit the buffer and fail behind it
-        const FileSizeLimit full(50);
-        EXPECT_FALSE(WriteWholeFile(path, QByteArray(size, 'x'))) << size;
-    }
-    EXPECT_EQ(BytesOf(path), QByteArray("old"));
     EXPECT_EQ(Entries(), QStringList{u"page.htm"_s});
 }
 

@@ -32,6 +32,7 @@ protected:
         ++connections;
         auto *const socket = last = new QSslSocket(this);
         socket->setSocketDescriptor(descriptor);
+        socket->setReadBufferSize(16LL * 1024); // answers early, however fast the other side sends
         socket->setSslConfiguration(tls);
         connect(socket, &QSslSocket::readyRead, this, [this, socket] { Serve(*socket); });
         if (!tls.isNull() && !expectsConnect)

@@ -50,10 +50,8 @@ QString Unquoted(QStringView value) {
     return text;
 }
 
-using Values = std::map<std::pair<QString, QString>, QString>;
-
-Values Parsed(const QString &text) {
-    Values values;
+SettingsTexts Parsed(const QString &text) {
+    SettingsTexts values;
     QString section;
     for (const QStringView line : QStringView(text).split(u'\n')) {
         const QStringView trimmed = line.trimmed();
@@ -68,7 +66,7 @@ Values Parsed(const QString &text) {
     return values;
 }
 
-QString Printed(const Values &values) {
+QString Printed(const SettingsTexts &values) {
     QString text;
     std::optional<QString> section;
     for (const auto &[name, value] : values) {
@@ -88,7 +86,7 @@ QString IniSettingsStore::DefaultPath() {
 }
 
 QString IniSettingsStore::Get(const QString &section, const QString &key) const {
-    const Values values = Read().value_or(Values());
+    const SettingsTexts values = Read().value_or(SettingsTexts());
     const auto found = values.find({section, key});
     return found == values.end() ? QString() : found->second;
 }
@@ -111,10 +109,10 @@ bool IniSettingsStore::DeleteSection(const QString &section) {
     return erased == 0 || Write(*values);
 }
 
-std::optional<IniSettingsStore::Values> IniSettingsStore::Read() const {
+std::optional<SettingsTexts> IniSettingsStore::Read() const {
     QFile file(path);
     if (!file.exists())
-        return Values();
+        return SettingsTexts();
     if (!file.open(QIODevice::ReadOnly))
         return {};
     const QString text = QString::fromUtf8(file.readAll());
@@ -123,8 +121,8 @@ std::optional<IniSettingsStore::Values> IniSettingsStore::Read() const {
     return Parsed(text);
 }
 
-bool IniSettingsStore::Write(const Values &values) const {
-    return QDir().mkpath(QFileInfo(path).path()) && WriteWholeFile(path, Printed(values).toUtf8());
+bool IniSettingsStore::Write(const SettingsTexts &texts) const {
+    return QDir().mkpath(QFileInfo(path).path()) && WriteWholeFile(path, Printed(texts).toUtf8());
 }
 
 } // namespace lanterra

@@ -8,6 +8,9 @@
 
 namespace lanterra {
 
+/// The texts of a settings file by section and key.
+using SettingsTexts = std::map<std::pair<QString, QString>, QString>;
+
 /// The settings store as one readable file in INI form, a group for each section. It is read at each Get and
 /// replaced whole at each change, so another instance's changes count at once and a full disk leaves the old
 /// file. QSettings isn't used for it, because there a full disk puts a cut file in the place of the old one
@@ -25,11 +28,9 @@ public:
     bool DeleteSection(const QString &section) override;
 
 private:
-    using Values = std::map<std::pair<QString, QString>, QString>; ///< by section and key
-
     /// Nothing if there is a file that can't be read.
-    std::optional<Values> Read() const;
-    bool Write(const Values &values) const;
+    std::optional<SettingsTexts> Read() const;
+    bool Write(const SettingsTexts &texts) const;
 
     QString path;
 };

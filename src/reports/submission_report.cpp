@@ -9,7 +9,6 @@
 #include "support/text_template.h"
 #include "support/whole_file.h"
 
-#include <QDir>
 #include <algorithm>
 #include <array>
 

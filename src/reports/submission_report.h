@@ -14,8 +14,7 @@ class WholeFile;
 /// Writes the HTML report of a run and the pages of the sites that were not selected.
 ///
 /// The page stands in the resource submission_report.txt, one record a line:
-///   - each record goes out with CR LF behind it; a record that ends in the two characters \n has a CR LF of
-///   its
+///   - each record goes out with CR LF behind it; one that ends in the two characters \n has a CR LF of its
 ///     own before that, so an empty line follows it;
 ///   - {NAME} is replaced by a value of the run, unescaped;
 ///   - a line "@List text" is written once for each name of that list, with {HREF} and {SITE} of the name.
@@ -23,6 +22,7 @@ class WholeFile;
 /// five digits, missing blanks.
 class SubmissionReport {
 public:
+    /// All must outlive this.
     SubmissionReport(Project &openProject, const RunResult &runResult, const Clock &systemClock,
                      EventQueue &eventQueue);
 

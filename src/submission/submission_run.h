@@ -43,7 +43,8 @@ public:
     ~SubmissionRun() = default;
     Q_DISABLE_COPY_MOVE(SubmissionRun)
 
-    /// What the popup's other modes and the upgrade check are; none, and their entries do nothing.
+    /// What the popup's other modes and the upgrade check are, to outlive this; none, and their entries do
+    /// nothing.
     void SetModes(SubmissionModes *submissionModes) { modes = submissionModes; }
     void SetUpgradeCheck(UpgradeCheck *upgradeCheck) { upgrade = upgradeCheck; }
 

@@ -53,6 +53,7 @@ Program::Program(const Doors &doors, const QString &programFolder)
                    project.path.AppPath()},
                   doors.makeClient()),
       UpgradeIt1({hosts, proxy, viewer, doors.dialogs}, doors.makeClient()),
+      inetDownload(frmStatus, doors.dialogs, doors.queue, doors.makeClient()),
       frmTop9({project.path.AppPath() + u"engine.dat"_s, frame, run, doors.dialogs, doors.queue, doors.clock},
               doors.makeClient),
       engineReport({project, frame, frmTop9, reportTemplates, doors.queue, doors.clock}),

@@ -20,6 +20,7 @@
 #include "reports/statistics.h"
 #include "research/web_search.h"
 #include "settings/web_browser_form.h"
+#include "shell/inet_download.h"
 #include "shell/main_form.h"
 #include "shell/shut_down.h"
 #include "shell/start_up.h"
@@ -101,6 +102,7 @@ public:
     WebSearch webSearch;
     SupportForm frmTechSupp;
     UpgradeIt UpgradeIt1;
+    InetDownload inetDownload;
     SplashForm frmSplash;
     ReportTemplates reportTemplates;
     TopEnginesForm frmTop9;

@@ -4,6 +4,7 @@
 #include "window/form_binder.h"
 
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace lanterra {
 
@@ -12,13 +13,24 @@ TopEnginesDialog::TopEnginesDialog(TopEnginesForm &topEnginesForm, QWidget *pare
     ui->setupUi(this);
     AddPanels();
     FormBinder(*this).Bind(form);
-    connect(&form, &TopEnginesForm::VisibleChanged, this, &QDialog::setVisible);
+    connect(&form, &TopEnginesForm::VisibleChanged, this, &TopEnginesDialog::Follow);
     connect(ui->cmdSubmit, &QPushButton::clicked, this, [this] { form.cmdSubmit_Click(); });
     connect(ui->cmdStop, &QPushButton::clicked, this, [this] { form.cmdStop_Click(); });
     connect(ui->SSCommand1, &QPushButton::clicked, this, [this] { form.SSCommand1_Click(); });
 }
 
 TopEnginesDialog::~TopEnginesDialog() = default;
+
+// The main window owns it, which the desktop is told when it is shown, so that it stays in front. Qt would
+// block an owned window together with its owner, though, and one box of the main window comes back until an
+// engine is selected here.
+void TopEnginesDialog::Follow(bool visible) {
+    if (windowHandle()) // there is none before the first showing, which finds the owner by itself
+        windowHandle()->setTransientParent(parentWidget()->windowHandle());
+    setVisible(visible);
+    if (visible)
+        windowHandle()->setTransientParent(nullptr);
+}
 
 // One line a panel of the form's status bar.
 void TopEnginesDialog::AddPanels() {

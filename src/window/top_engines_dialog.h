@@ -12,11 +12,12 @@ class TopEnginesDialog;
 namespace lanterra {
 
 /// frmTop9: which of the top search engines are wanted, and how their submission goes. It stands beside the
-/// main window, which can be used meanwhile.
+/// main window, which can be used meanwhile, and can itself be used while a box blocks the main window.
 class TopEnginesDialog : public QDialog {
     Q_OBJECT
 
 public:
+    /// The form must outlive the dialog. `parent` is the main window.
     TopEnginesDialog(TopEnginesForm &topEnginesForm, QWidget *parent);
     ~TopEnginesDialog() override;
     Q_DISABLE_COPY_MOVE(TopEnginesDialog)
@@ -25,6 +26,7 @@ public:
     void reject() override { form.Close(); }
 
 private:
+    void Follow(bool visible);
     void AddPanels();
 
     TopEnginesForm &form;

@@ -60,6 +60,21 @@ void WindowFixture::GivenMaster(const QStringList &names) {
     ASSERT_TRUE(BuildSiteDatabase(source, Path("ng.dll")));
 }
 
+void WindowFixture::GivenProject(const QStringList &sites, const QString &browser) {
+    GivenMaster(sites);
+    WindowProgram maker(home.path());
+    Program &parts = maker.program;
+    parts.options.Set(option::welcomeSeen, u"1"_s);
+    parts.options.Set(option::browser, browser);
+    ASSERT_TRUE(parts.startProject.CreateProject(u"Shop"_s));
+    parts.files.LoadProject();
+    for (const ProjectRecord::TextField &field : parts.project.record.TextFields())
+        field.box->SetText(u"45"_s);
+    parts.project.record.txtURL.SetText(u"http://www.shop.example/"_s);
+    parts.project.lists.List1.SetAllSelected(true);
+    ASSERT_TRUE(parts.files.SaveProject(QString()).stored);
+}
+
 void WindowFixture::Play(const std::vector<Step> &steps, const QString &commandLine) {
     // An end in the middle of the last start has told a loop to quit that had not begun.
     QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);

@@ -20,8 +20,13 @@ protected:
     /// A master of these sites of the practice web, in the order in which they stand there.
     void GivenMaster(const QStringList &names);
 
+    /// The project "Shop" on such a master, filled in, with all sites selected, and a user who has been
+    /// welcomed. `browser` is the command that opens pages, empty for the desktop's.
+    void GivenProject(const QStringList &sites, const QString &browser = {});
+
     /// The program, new on what the last one left behind, until its end.
     void Play(const std::vector<Step> &steps, const QString &commandLine = {});
+    void PlayOnProject(const std::vector<Step> &steps) { Play(steps, Path("Projects/Shop.rts")); }
 
     /// A form or pane and what is on it, by object name; the program ends over one that isn't there.
     static QWidget &Form(QAnyStringView name);

@@ -11,21 +11,9 @@ using namespace Qt::StringLiterals;
 
 class WindowReentryTest : public WindowFixture {
 protected:
-    /// A project with two sites that answer at once and one that never does, all selected.
-    void GivenProject() {
-        GivenMaster({u"Quillfind"_s, u"Drumlinfind"_s, u"Harbor"_s});
-        WindowProgram maker(home.path());
-        Program &parts = maker.program;
-        parts.options.Set(option::welcomeSeen, u"1"_s);
-        ASSERT_TRUE(parts.startProject.CreateProject(u"Shop"_s));
-        parts.files.LoadProject();
-        for (const ProjectRecord::TextField &field : parts.project.record.TextFields())
-            field.box->SetText(u"45"_s);
-        parts.project.lists.List1.SetAllSelected(true);
-        ASSERT_TRUE(parts.files.SaveProject(QString()).stored);
-    }
+    /// Two sites that answer at once and one that never does.
+    WindowReentryTest() { GivenProject({u"Quillfind"_s, u"Drumlinfind"_s, u"Harbor"_s}); }
 
-    void PlayOnProject(const std::vector<Step> &steps) { Play(steps, Path("Projects/Shop.rts")); }
     bool Exists(QAnyStringView name) const { return QFile::exists(Path(name)); }
 
     Condition When(const QString &what, const std::function<bool(const Program &)> &holds) const {
@@ -50,7 +38,6 @@ protected:
 };
 
 TEST_F(WindowReentryTest, ARunGoesOnUnderAllThatIsPressedMeanwhile) {
-    GivenProject();
     QStringList seen;
     const auto seeMark = [&] {
         seen << (QApplication::activePopupWidget()->actions().last()->isChecked() ? u"disabled"_s
@@ -80,7 +67,6 @@ TEST_F(WindowReentryTest, ARunGoesOnUnderAllThatIsPressedMeanwhile) {
 }
 
 TEST_F(WindowReentryTest, PauseHoldsARunAndOneThatItsReleaseBegins) {
-    GivenProject();
     PlayOnProject({{window, Alt(Qt::Key_U)},
                    {pane, ClicksSubmit("Command1")},
                    {pane, Alt(Qt::Key_B)},
@@ -101,7 +87,6 @@ TEST_F(WindowReentryTest, ClosingTheWindowEndsAllThatWaits) {
     };
     const Condition list{u"list"_s, [] { return QApplication::activePopupWidget() != nullptr; }};
     const std::vector<Step> submit{{window, Alt(Qt::Key_U)}, {pane, Alt(Qt::Key_B)}};
-    GivenProject();
     for (const auto &[name, way, leavesReport] :
          std::vector<std::tuple<const char *, std::vector<Step>, bool>>{
              {"run", run + std::vector<Step>{{pane, close}}, true},

@@ -37,6 +37,8 @@ TEST_F(SubmissionRunTest, AWholeRunCountsReportsAndUnlocks) {
     EXPECT_EQ(Failed(), QStringList());
     EXPECT_EQ(Result().NotSelectedCount(), 1);
     EXPECT_EQ(Form().Label30.Caption() + Form().Label31.Caption(), u"60"_s);
+    EXPECT_EQ(Form().Label2.Caption(), Record().txtURL.Text());
+    EXPECT_EQ(Record().txtName.Text(), Record().txtName1.Text() + u' ' + Record().txtName2.Text());
     EXPECT_TRUE(ReadPage(u"Site 4."_s).contains(u"<strong>NOTSELECTED</strong>"_s));
     EXPECT_TRUE(ReportExists());
     EXPECT_FALSE(Run().RunActive());
@@ -188,13 +190,17 @@ TEST_F(SubmissionRunTest, APressThatReleasesPauseTakesACancelBack) {
 
 TEST_F(SubmissionRunTest, CancelWhileAllAreBusyLeavesSitesWithoutAVerdict) {
     GivenSites(Numbered(7));
-    WhenWaiting([&] { Run().cmdCancel_Click(); });
+    WhenWaiting([&] {
+        Run().cmdCancel_Click();
+        emit Client(5).Connected(); // was on its way: the run waits for this one, and the watchdog ends it
+    });
     PressSubmit();
     for (int channel = 1; channel <= channelCount; ++channel) {
         EXPECT_EQ(Client(channel).connects, 1);
-        EXPECT_EQ(Client(channel).aborts, 1);
+        EXPECT_EQ(Client(channel).aborts, channel == 5 ? 2 : 1);
     }
-    EXPECT_EQ(Form().Label29.Caption(), u"0"_s);
+    EXPECT_EQ(Failed(), QStringList{u"Site 5."_s});
+    EXPECT_EQ(Form().Label29.Caption(), u"0"_s); // as it stood when the cancel was seen
     EXPECT_EQ(Outcome(0).verdict, Verdict::None);
     EXPECT_EQ(Outcome(6).reason, u"the run was cancelled"_s);
     EXPECT_TRUE(ReadPage(u"Site 7."_s).contains(u"<strong>ERROR!</strong>"_s));
@@ -269,6 +275,9 @@ TEST_F(SubmissionRunTest, ANewProjectIsSavedFirstAndACancelledDialogLetsTheRunGo
     EXPECT_EQ(dialogs.fileDialogs.size(), 2U);
     EXPECT_FALSE(Run().RunActive());
     EXPECT_TRUE(ReportExists());
+    dialogs.files = {home.filePath(u"New.rts"_s)};
+    PressSubmit();
+    EXPECT_EQ(Result().reportFile, home.filePath(u"New/report.htm"_s));
 }
 
 TEST_F(SubmissionRunTest, OpensTheReportOnlyIfAskedAndNotWhenTheProgramCloses) {

@@ -3,6 +3,8 @@
 #include "ui_top_engines_dialog.h"
 #include "window/form_binder.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -30,6 +32,14 @@ void TopEnginesDialog::Follow(bool visible) {
     setVisible(visible);
     if (visible)
         windowHandle()->setTransientParent(nullptr);
+}
+
+// Whoever works here while a box is up would not find it again below this.
+void TopEnginesDialog::changeEvent(QEvent *event) {
+    QDialog::changeEvent(event);
+    QWidget *const box = QApplication::activeModalWidget();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && box)
+        box->raise();
 }
 
 // One line a panel of the form's status bar.

@@ -25,6 +25,9 @@ public:
     /// Escape and the close box end the job.
     void reject() override { form.Close(); }
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void Follow(bool visible);
     void AddPanels();

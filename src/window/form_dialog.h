@@ -34,6 +34,7 @@ protected:
 
 private:
     void FitHeight();
+    void FindPlace();
 
     std::function<void()> closedByUser;
     bool modelVisible = false;

@@ -84,9 +84,15 @@ void MainMenus::JoinRibbon() {
     auto *const withText = qobject_cast<QToolButton *>(ui.SSRibbon1->widgetForAction(buttons.last()));
     withText->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     withText->setObjectName(QStringLiteral("ribbonWithText")); // for the style sheet
+    // Tab comes here behind the panes, which are used more. Only a widget that takes the focus has a place.
+    QWidget *before = window.previousInFocusChain();
+    while (!(before->focusPolicy() & Qt::TabFocus))
+        before = before->previousInFocusChain();
     for (QAction *action : buttons) {
         QWidget *const button = ui.SSRibbon1->widgetForAction(action);
         button->setFocusPolicy(Qt::TabFocus);
+        QWidget::setTabOrder(before, button);
+        before = button;
         button->setAccessibleName(action->toolTip());
     }
 }

@@ -66,8 +66,24 @@ void MainWindow::AddPane(Pane pane, QWidget *widget, QPushButton *button) {
 // meanwhile would be lost. These act at once.
 void MainWindow::JoinPaneButton(QPushButton *button, const std::function<void()> &show) {
     button->setShortcut({});
-    new QShortcut(QKeySequence::mnemonic(button->text()), button, [button] { button->click(); });
+    new QShortcut(QKeySequence::mnemonic(button->text()), button, [this, button] {
+        button->click();
+        FocusPane();
+    });
     connect(button, &QPushButton::clicked, this, show);
+}
+
+// Who calls a pane by its key goes on with the keys there: where the focus was last, or at the top.
+void MainWindow::FocusPane() {
+    QWidget *const pane = ui->panes->currentWidget();
+    QWidget *first = pane->focusWidget();
+    for (QWidget *each = pane->nextInFocusChain(); !first && pane->isAncestorOf(each);
+         each = each->nextInFocusChain()) {
+        if ((each->focusPolicy() & Qt::TabFocus) && each->isEnabled() && each->isVisibleTo(pane))
+            first = each;
+    }
+    if (first)
+        first->setFocus(Qt::ShortcutFocusReason);
 }
 
 void MainWindow::JoinPaneButtons() {

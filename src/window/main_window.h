@@ -41,6 +41,7 @@ private:
     void AddPane(Pane pane, QWidget *widget, QPushButton *button);
     void JoinPaneButtons();
     void JoinPaneButton(QPushButton *button, const std::function<void()> &show);
+    void FocusPane();
     void JoinFrame();
     void ShowPane(Pane pane);
     void ShowPointer(MousePointer pointer);

@@ -55,8 +55,13 @@ void JoinLine(TextBox &box, QLineEdit &edit) {
         if (edit.text() != text)
             edit.setText(text);
     });
+    // A selection is only seen where the keys go; elsewhere its start comes into view.
     QObject::connect(&box, &TextBox::SelectionChanged, &edit, [&edit](qsizetype start, qsizetype length) {
-        edit.setSelection(static_cast<int>(std::min(start, edit.text().size())), static_cast<int>(length));
+        const int place = static_cast<int>(std::min(start, edit.text().size()));
+        if (edit.hasFocus())
+            edit.setSelection(place, static_cast<int>(length));
+        else
+            edit.setCursorPosition(place);
     });
 }
 

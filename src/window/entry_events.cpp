@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QPlainTextEdit>
 #include <QWidget>
 
 namespace lanterra {
@@ -17,6 +18,15 @@ bool MovesForGood(Qt::FocusReason reason) {
 bool IsReturn(const QEvent &event) {
     const int key = static_cast<const QKeyEvent &>(event).key();
     return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+// A line does so by itself.
+void Deselect(QObject &widget) {
+    if (auto *const lines = qobject_cast<QPlainTextEdit *>(&widget)) {
+        QTextCursor cursor = lines->textCursor();
+        cursor.clearSelection();
+        lines->setTextCursor(cursor);
+    }
 }
 
 } // namespace
@@ -40,9 +50,10 @@ bool EntryEvents::eventFilter(QObject *watched, QEvent *event) {
         return false;
     if (event->type() == QEvent::FocusIn && MovesForGood(static_cast<QFocusEvent *>(event)->reason()))
         GotFocus(*box);
-    else if (event->type() == QEvent::FocusOut && MovesForGood(static_cast<QFocusEvent *>(event)->reason()))
+    else if (event->type() == QEvent::FocusOut && MovesForGood(static_cast<QFocusEvent *>(event)->reason())) {
+        Deselect(*watched);
         LostFocus(*box);
-    else if (event->type() == QEvent::KeyPress && IsReturn(*event))
+    } else if (event->type() == QEvent::KeyPress && IsReturn(*event))
         return entry.ReturnPressed(*box);
     return false;
 }

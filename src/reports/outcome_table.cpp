@@ -1,5 +1,7 @@
 #include "reports/outcome_table.h"
 
+#include "support/tool_tip.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -56,9 +58,14 @@ int OutcomeTable::rowCount(const QModelIndex &parent) const {
 int OutcomeTable::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : fieldCount; }
 
 QVariant OutcomeTable::data(const QModelIndex &index, int role) const {
-    if (!index.isValid() || role != Qt::DisplayRole)
+    if (!index.isValid())
         return {};
-    return Cell(rows.at(static_cast<std::size_t>(index.row())), index.column());
+    if (role == Qt::TextAlignmentRole && index.column() == Size)
+        return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
+        return {};
+    const QVariant cell = Cell(rows.at(static_cast<std::size_t>(index.row())), index.column());
+    return role == Qt::DisplayRole ? cell : ToolTipOf(cell.toString());
 }
 
 QVariant OutcomeTable::Cell(const Row &row, int column) const {

@@ -22,7 +22,7 @@ public:
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
-    /// The texts of a row. A size is a number, and no value while nothing has come.
+    /// The texts of a row, also as tool tips. A size is a number, and no value while nothing has come.
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 

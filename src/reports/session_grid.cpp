@@ -1,20 +1,11 @@
 #include "reports/session_grid.h"
 
 #include "database/data_control.h"
+#include "support/tool_tip.h"
 
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
-
-namespace {
-
-// As markup, so that names in the text aren't taken for such, and so that a long text wraps.
-QString ToolTip(const QString &text) {
-    const QString line = text.trimmed().replace("\r\n"_L1, ", "_L1);
-    return line.isEmpty() ? QString() : u"<p>%1</p>"_s.arg(line.toHtmlEscaped());
-}
-
-} // namespace
 
 const QStringList &SessionGrid::Fields() {
     static const QStringList fields{u"Date"_s,
@@ -51,7 +42,7 @@ QVariant SessionGrid::data(const QModelIndex &index, int role) const {
         return {};
     const QString &text =
         rows.at(static_cast<std::size_t>(index.row())).at(static_cast<std::size_t>(index.column()));
-    return role == Qt::DisplayRole ? text : ToolTip(text);
+    return role == Qt::DisplayRole ? text : ToolTipOf(text.trimmed().replace("\r\n"_L1, ", "_L1));
 }
 
 QVariant SessionGrid::headerData(int section, Qt::Orientation orientation, int role) const {

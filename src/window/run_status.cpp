@@ -1,5 +1,6 @@
 #include "window/run_status.h"
 
+#include "support/tool_tip.h"
 #include "window/form_binder.h"
 
 #include <QLocale>
@@ -18,11 +19,6 @@ QString TimeLeftText(int seconds) {
     return RunStatus::tr("about %1 min left").arg((seconds + secondsOfMinute - 1) / secondsOfMinute);
 }
 
-// As markup, so that names in the text aren't taken for such, and so that a long one wraps.
-QString ToolTip(const QString &text) {
-    return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
-}
-
 } // namespace
 
 RunStatus::RunStatus(Program &program, QStatusBar &bar)
@@ -36,7 +32,7 @@ RunStatus::RunStatus(Program &program, QStatusBar &bar)
     bar.addWidget(notice, 1);
     FormBinder(bar).Bind(program.frame);
     connect(&program.frame.Notice, &Label::CaptionChanged, notice,
-            [notice](const QString &text) { notice->setToolTip(ToolTip(text)); });
+            [notice](const QString &text) { notice->setToolTip(ToolTipOf(text)); });
     progress.setAccessibleName(tr("Progress of the run"));
     progress.setMaximumWidth(progressWidth);
     progress.setRange(0, progressParts);

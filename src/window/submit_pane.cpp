@@ -15,8 +15,10 @@ namespace lanterra {
 namespace {
 
 // Widths of the table's columns in pixels of 96 dpi.
-constexpr int siteWidth = 170;
+constexpr int siteWidth = 160;
+constexpr int resultWidth = 90;
 constexpr int answerWidth = 150;
+constexpr int sizeWidth = 70;
 
 } // namespace
 
@@ -49,7 +51,9 @@ void SubmitPane::JoinOutcomes(OutcomeTable &outcomes) {
     header.setHighlightSections(false);
     header.setStretchLastSection(true);
     header.resizeSection(OutcomeTable::Site, siteWidth);
+    header.resizeSection(OutcomeTable::Result, resultWidth);
     header.resizeSection(OutcomeTable::Answer, answerWidth);
+    header.resizeSection(OutcomeTable::Size, sizeWidth);
     new EmptyHint(*ui->outcomes,
                   tr("Press SUBMIT to send your page to the selected sites. Here you will see how "
                      "each of them answered."));

@@ -13,7 +13,7 @@ namespace {
 
 /// In pixels of 96 dpi, in the order of the fields; the columns without a width share what is left. All nine
 /// fit into a window of 1000 pixels.
-constexpr std::array<int, SessionGrid::fieldCount> columnWidths{132, 0, 0, 74, 90, 60, 52, 100, 100};
+constexpr std::array<int, SessionGrid::fieldCount> columnWidths{164, 0, 0, 74, 90, 60, 52, 100, 100};
 
 void SetUpHeader(QHeaderView &header) {
     for (int column = 0; column < SessionGrid::fieldCount; ++column) {

@@ -56,6 +56,7 @@ void TopEnginesDialog::AddPanels() {
     }
     connect(&form.StatusBar1, &StatusBar::PanelTextChanged, ui->StatusBar1,
             [labels](int panel, const QString &text) { labels.at(panel)->setText(text); });
+    connect(&form.StatusBar1, &StatusBar::PanelTextChanged, ui->statusHint, &QLabel::hide);
 }
 
 } // namespace lanterra

@@ -20,6 +20,7 @@ public:
         const Clock &clock;
     };
 
+    /// All parts must outlive this.
     explicit EngineReport(const Parts &theParts) : parts(theParts) {}
 
     /// Takes the results of the spider's tasks into the table, and writes the report of the current URL: a

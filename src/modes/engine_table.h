@@ -35,7 +35,7 @@ struct EngineRow {
 /// table takes, and the rest of it is not read.
 class EngineTable {
 public:
-    /// Reads and deciphers the file, then does as Load.
+    /// Reads and deciphers the file, then does as Load. A file that can't be read is an empty text.
     bool Read(const QString &path);
 
     /// Rebuilds the table from a deciphered text. False, with no rows, if the text has fewer than three

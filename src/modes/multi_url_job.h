@@ -27,9 +27,11 @@ public:
         const Clock &clock;
     };
 
+    /// All parts must outlive this.
     explicit MultiUrlJob(const Parts &theParts);
 
-    /// None, and nothing is told at the end of the job.
+    /// What is asked for a result at the end of each job; it must outlive this. None, and nothing is told
+    /// there.
     void SetUpgradeCheck(UpgradeCheck *upgradeCheck) { upgrade = upgradeCheck; }
 
     /// Makes the job, or tells why it can't: without the several-URL mode it leads to the form of the

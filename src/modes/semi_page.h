@@ -25,6 +25,7 @@ public:
         SubmissionRun &run;
     };
 
+    /// All parts must outlive this.
     explicit SemiPage(const Parts &theParts);
 
     /// The whole mode: the checks of a run, then the page. False if the page could not be written; a check

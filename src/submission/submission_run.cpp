@@ -27,6 +27,7 @@ SubmissionRun::SubmissionRun(const Parts &theParts)
 void SubmissionRun::cmdStart_Click() {
     cancelRequested = false;
     pauseReleased = true;
+    parts.form.Command1.SetMarked(false);
     modeUnchosen = true;
     if (!multiActive)
         DeriveReportPaths();
@@ -218,6 +219,7 @@ void SubmissionRun::SetRunActive(bool active) {
 
 void SubmissionRun::Command1_Click() {
     pauseReleased = false;
+    parts.form.Command1.SetMarked(true);
     while (!pauseReleased && !parts.queue.Closing())
         parts.queue.Wait(EventQueue::withoutEnd);
 }

@@ -14,6 +14,7 @@ SubmitForm::SubmitForm() {
         AddToForm(*this, channels[i].disableMark, u"mnuDisabled"_s + suffix);
         channels[i].button.SetPicture(ButtonPicture::Idle);
     }
+    AddToForm(*this, Command1, u"Command1"_s);
     AddToForm(*this, Label2, u"Label2"_s);
     AddToForm(*this, Label28, u"Label28"_s);
     AddToForm(*this, Label29, u"Label29"_s);

@@ -26,11 +26,12 @@ public:
     SubmitForm();
 
     std::array<ChannelDisplay, channelCount> channels;
-    Label Label2;  ///< current URL
-    Label Label28; ///< total
-    Label Label29; ///< covered
-    Label Label30; ///< successful
-    Label Label31; ///< failed
+    Button Command1; ///< "Pause", marked while it holds
+    Label Label2;    ///< current URL
+    Label Label28;   ///< total
+    Label Label29;   ///< covered
+    Label Label30;   ///< successful
+    Label Label31;   ///< failed
 };
 
 } // namespace lanterra

@@ -160,7 +160,9 @@ TEST_F(SubmissionRunTest, PauseHoldsDispatchAndWatchdogUntilTheNextPress) {
         clock.Advance(std::chrono::seconds(300));
         EXPECT_EQ(Client(2).connects, 1);
         EXPECT_EQ(Result().FailedCount(), 0);
+        EXPECT_TRUE(program->submitForm.Command1.Marked());
         PressSubmit();
+        EXPECT_FALSE(program->submitForm.Command1.Marked());
     });
     WhenWaiting([&] {
         EXPECT_EQ(Client(1).connects, 2); // released: the others have timed out, and the sixth site goes out

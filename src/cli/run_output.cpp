@@ -23,7 +23,7 @@ void PrintRun(const CommandCall &call, Program &program) {
         call.console.Print(line);
 }
 
-Outcome ChecksRefusal(ProjectRecord &record) {
+Outcome ChecksRefusal(ProjectRecord &record, const QString &advice) {
     QStringList empty;
     if (IsBlank(record.txtURL.Text()))
         empty << record.txtURL.objectName();
@@ -31,8 +31,7 @@ Outcome ChecksRefusal(ProjectRecord &record) {
         if (IsBlank(field->Text()) && !empty.contains(field->objectName()))
             empty << field->objectName();
     }
-    return Outcome::Refused(empty.isEmpty() ? u"Choose one with: lanterra-cli category"_s
-                                            : u"These are empty: %1."_s.arg(empty.join(", "_L1)));
+    return Outcome::Refused(empty.isEmpty() ? advice : u"These are empty: %1."_s.arg(empty.join(", "_L1)));
 }
 
 } // namespace lanterra

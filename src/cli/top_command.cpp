@@ -4,10 +4,7 @@
 #include "cli/run_output.h"
 #include "cli/top_output.h"
 #include "platform/interrupt.h"
-#include "submission/required_fields.h"
 #include "support/numbers.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -36,54 +33,53 @@ Outcome ChooseEngines(TopEnginesForm &form, const QStringList &names) {
     return {};
 }
 
-/// Nobody is there to answer the form, so its appearance is answered with Submit.
-void AnswerForm(TopEnginesForm &form) {
-    QObject::connect(&form, &Control::VisibleChanged, &form, [&form](bool visible) {
-        if (visible && !form.TopEnginesGo)
+/// Nobody is there to answer the form, so its appearance is answered with Submit, or with Cancel if Ctrl-C
+/// came before it, which the mode would forget.
+void AnswerForm(TopEnginesForm &form, const Interrupt &interrupt) {
+    QObject::connect(&form, &Control::VisibleChanged, &interrupt, [&](bool visible) {
+        if (!visible || form.TopEnginesGo)
+            return;
+        if (interrupt.WasPressed())
+            form.SSCommand1_Click();
+        else
             form.cmdSubmit_Click();
     });
 }
 
-Outcome Refusal(ProjectRecord &record) {
-    const auto fields = BindRequiredFields(record);
-    const bool lacksField = IsBlank(record.txtURL.Text()) ||
-                            std::any_of(fields.begin(), fields.end(),
-                                        [](const TextBox *field) { return IsBlank(field->Text()); });
-    return lacksField ? ChecksRefusal(record) : Outcome{ExitCode::Refused};
-}
-
-Outcome RunTop(const CommandCall &call) {
-    ProjectSession session(call);
-    if (Outcome opened = session.Open(call.arguments.first()); !opened.Good())
-        return opened;
-    Program &program = session.program;
-    if (Outcome chosen = ChooseEngines(program.frmTop9, call.arguments.mid(1)); !chosen.Good())
-        return chosen;
-    if (call.options.isSet(u"timeout"_s))
-        program.frmTop9.TimeOut.SetText(call.options.value(u"timeout"_s));
+Outcome SubmitToEngines(const CommandCall &call, Program &program) {
     program.reportTemplates.Read(program.project.path.AppPath());
     program.proxy.ApplyProxySettings();
-    AnswerForm(program.frmTop9);
     Interrupt interrupt;
     interrupt.Watch();
+    AnswerForm(program.frmTop9, interrupt);
     QObject::connect(&interrupt, &Interrupt::Pressed, &program.frmTop9, &TopEnginesForm::SSCommand1_Click);
     TopOutput output(call, program);
     program.topEngines.SubmitTopEngines();
     if (!output.HasReports() && !interrupt.WasPressed())
-        return Refusal(program.project.record);
+        return ChecksRefusal(program.project.record, QString());
     output.Print();
-    for (const QString &trouble : program.topEngines.NotStored())
+    const QStringList &troubles = program.topEngines.NotStored();
+    for (const QString &trouble : troubles)
         call.console.Tell(trouble);
     if (interrupt.WasPressed())
         return {ExitCode::Cancelled};
-    return {program.topEngines.NotStored().isEmpty() ? ExitCode::Done : ExitCode::Failed};
+    return {troubles.isEmpty() ? ExitCode::Done : ExitCode::Failed};
 }
 
-Outcome RunTopIfNumeric(const CommandCall &call) {
+Outcome RunTop(const CommandCall &call) {
     const QString limit = call.options.value(u"timeout"_s);
-    if (call.options.isSet(u"timeout"_s) && !IsNumeric(limit))
+    const bool limited = call.options.isSet(u"timeout"_s);
+    if (limited && !IsNumeric(limit))
         return Outcome::WrongUse(u"--timeout takes a number of seconds, not %1."_s.arg(limit));
-    return RunTop(call);
+    ProjectSession session(call);
+    if (Outcome opened = session.Open(call.arguments.first()); !opened.Good())
+        return opened;
+    TopEnginesForm &form = session.program.frmTop9;
+    if (Outcome chosen = ChooseEngines(form, call.arguments.mid(1)); !chosen.Good())
+        return chosen;
+    if (limited)
+        form.TimeOut.SetText(limit);
+    return SubmitToEngines(call, session.program);
 }
 
 } // namespace
@@ -94,7 +90,7 @@ Command TopCommand() {
             .summary = u"submit the page to the top search engines"_s,
             .options = {{u"timeout"_s, u"give an engine up after this time (100)"_s, u"SECONDS"_s},
                         {u"json"_s, u"print one JSON object with the result of every engine"_s}},
-            .run = RunTopIfNumeric};
+            .run = RunTop};
 }
 
 } // namespace lanterra

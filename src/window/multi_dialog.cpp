@@ -3,6 +3,7 @@
 #include "ui_multi_dialog.h"
 #include "window/form_binder.h"
 
+#include <QAbstractItemDelegate>
 #include <QKeyEvent>
 
 namespace lanterra {
@@ -16,10 +17,14 @@ MultiDialog::MultiDialog(MultiForm &multiForm, QWidget *parent)
     ui->ListedURLs->installEventFilter(this);
     connect(ui->ListedURLs->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &current) { form.ListedURLs.SetListIndex(current.row()); });
-    // A line that was typed to its end leads to the next one.
+    // A line that Return ends leads to the next one. Nobody else closes an editor in this way.
     connect(
-        &form.ListedURLs, &QAbstractItemModel::rowsInserted, this,
-        [this](const QModelIndex &, int, int last) { EditLine(last + 1); }, Qt::QueuedConnection);
+        ui->ListedURLs->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+        [this](const QWidget *, QAbstractItemDelegate::EndEditHint hint) {
+            if (hint == QAbstractItemDelegate::SubmitModelCache)
+                EditLine(ui->ListedURLs->currentIndex().row() + 1);
+        },
+        Qt::QueuedConnection);
     connect(ui->cmdOK, &QPushButton::clicked, this, [this] {
         ui->cmdOK->setFocus(); // its key leaves the focus where it is, and a line still being typed would go
         form.cmdOK_Click();
@@ -29,11 +34,10 @@ MultiDialog::MultiDialog(MultiForm &multiForm, QWidget *parent)
 
 MultiDialog::~MultiDialog() = default;
 
-// Only while the user types here: lines also come when the form fills its list.
+// Behind the last line, which is empty, there is none.
 void MultiDialog::EditLine(int row) {
-    if (!ui->ListedURLs->hasFocus())
-        return;
-    ui->ListedURLs->setCurrentIndex(form.ListedURLs.index(row)); // which opens its editor
+    if (row < form.ListedURLs.rowCount())
+        ui->ListedURLs->setCurrentIndex(form.ListedURLs.index(row)); // which opens its editor
 }
 
 bool MultiDialog::eventFilter(QObject *watched, QEvent *event) {

@@ -191,11 +191,11 @@ void SubmissionRun::EndRun() {
     parts.channels.ShowIdle();
     LockEntries(false);
     ending.Record(startTime, ReasonWithoutVerdict());
+    parts.result.End(); // before the question, which stands as long as nobody answers it
     if (upgrade)
         upgrade->ReleaseUpgrade();
     multiActive = false;
     SetRunActive(false);
-    parts.result.End();
     parts.counter.RemoveScratchFile();
     multiIdle = true;
 }

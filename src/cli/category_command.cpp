@@ -55,8 +55,7 @@ Outcome ReadChoice(const QString &word, CategoryLists &lists, CategoryChoice &ch
         equals = word.indexOf(u'=', equals + 1);
     }
     if (choice.directory.isEmpty())
-        return Outcome::Failed(u"There is no directory '%1'; the directories are %2."_s.arg(
-            word.section(u'=', 0, 0), lists.Directories().join(", "_L1)));
+        return Outcome::Failed(UnknownName(u"directory"_s, word.section(u'=', 0, 0), lists.Directories()));
     const QStringList offers = lists.Show(choice.directory).Items();
     const QString category = Find(offers, choice.category);
     if (category.isEmpty())

@@ -1,6 +1,7 @@
 #include "cli/field_values.h"
 
 #include "cli/console.h"
+#include "cli/name_lookup.h"
 
 #include <algorithm>
 
@@ -17,21 +18,20 @@ auto *BoxOf(const Fields &fields, const QString &name) {
     return found == fields.end() ? nullptr : found->box;
 }
 
-QString AllNames(const ProjectRecord &record) {
+QStringList AllNames(const ProjectRecord &record) {
     QStringList names;
     for (const ProjectRecord::TextField &field : record.TextFields())
         names << field.name;
     for (const ProjectRecord::CheckField &field : record.CheckFields())
         names << field.name;
-    return names.join(", "_L1);
+    return names;
 }
 
 Outcome ValueRefusal(const FieldValue &field, const ProjectRecord &record) {
     if (BoxOf(record.TextFields(), field.name))
         return {};
     if (!BoxOf(record.CheckFields(), field.name))
-        return Outcome::WrongUse(
-            u"There is no field '%1'; the fields are %2."_s.arg(field.name, AllNames(record)));
+        return Outcome::WrongUse(UnknownName(u"field"_s, field.name, AllNames(record)));
     return field.value == "0"_L1 || field.value == "1"_L1
                ? Outcome{}
                : Outcome::WrongUse(

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace lanterra {
 
 qsizetype IndexOfName(const QStringList &names, const QString &typed) {
@@ -11,6 +13,10 @@ qsizetype IndexOfName(const QStringList &names, const QString &typed) {
         return name.compare(typed, Qt::CaseInsensitive) == 0;
     });
     return found == names.end() ? -1 : found - names.begin();
+}
+
+QString UnknownName(const QString &kind, const QString &typed, const QStringList &names) {
+    return u"There is no %1 '%2', but these: %3."_s.arg(kind, typed, names.join(", "_L1));
 }
 
 } // namespace lanterra

@@ -8,4 +8,7 @@ namespace lanterra {
 /// else -1.
 qsizetype IndexOfName(const QStringList &names, const QString &typed);
 
+/// A sentence that says that a typed name is none of these. `kind` is what they name, such as "engine".
+QString UnknownName(const QString &kind, const QString &typed, const QStringList &names);
+
 } // namespace lanterra

@@ -14,8 +14,7 @@ Outcome RunSearch(const CommandCall &call) {
     const QStringList &engines = search.cobEngine.Entries();
     const qsizetype row = IndexOfName(engines, call.arguments.first());
     if (row < 0)
-        return Outcome::Failed(u"There is no search engine %1. These are known: %2."_s.arg(
-            call.arguments.first(), engines.join(", "_L1)));
+        return Outcome::Failed(UnknownName(u"search engine"_s, call.arguments.first(), engines));
     search.cobEngine.SetText(engines.at(row));
     search.txtKeywords.SetText(call.arguments.mid(1).join(u' '));
     return FetchAnswer(call, search, [&search] { search.cmdFind_Click(); });

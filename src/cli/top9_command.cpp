@@ -17,8 +17,7 @@ Outcome ChooseEngines(QMap<QString, int> &checks, const QStringList &names) {
     for (const QString &name : names) {
         const qsizetype row = IndexOfName(engines, name);
         if (row < 0)
-            return Outcome::Failed(
-                u"There is no engine %1, but these: %2."_s.arg(name, engines.join(", "_L1)));
+            return Outcome::Failed(UnknownName(u"engine"_s, name, engines));
         checks[engines[row]] = 1;
     }
     return {};

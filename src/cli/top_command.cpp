@@ -24,8 +24,7 @@ Outcome ChooseEngines(TopEnginesForm &form, const QStringList &names) {
     for (const QString &name : names) {
         const qsizetype row = IndexOfName(form.List1.Items(), name);
         if (row < 0)
-            return Outcome::Failed(
-                u"There is no engine %1, but these: %2."_s.arg(name, form.List1.Items().join(", "_L1)));
+            return Outcome::Failed(UnknownName(u"engine"_s, name, form.List1.Items()));
         form.List1.SetSelected(static_cast<int>(row), true);
     }
     if (form.List1.SelCount() == 0)

@@ -50,7 +50,8 @@ bool MultiDialog::eventFilter(QObject *watched, QEvent *event) {
         return true;
     }
     if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-        ui->ListedURLs->edit(ui->ListedURLs->currentIndex());
+        if (ui->ListedURLs->hasFocus()) // and not its editor, which hands its own Return on
+            ui->ListedURLs->edit(ui->ListedURLs->currentIndex());
         return true;
     }
     return FormDialog::eventFilter(watched, event);

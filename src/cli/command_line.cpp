@@ -63,10 +63,12 @@ Outcome CommandLine::RunProgram(const QStringList &arguments) {
         console.Print(u"lanterra-cli " LANTERRA_VERSION ""_s);
         return {};
     }
-    const QStringList words = parser.positionalArguments();
-    if (parser.isSet(u"help"_s) || words.isEmpty() || words.first() == "help"_L1)
-        return Help(words.mid(words.isEmpty() || words.first() != "help"_L1 ? 0 : 1));
-    return RunNamed(words, parser.value(u"home"_s));
+    QStringList words = parser.positionalArguments();
+    const bool asksForHelp = parser.isSet(u"help"_s) || words.isEmpty() || words.first() == "help"_L1;
+    if (!asksForHelp)
+        return RunNamed(words, parser.value(u"home"_s));
+    words.removeAll(u"help"_s);
+    return Help(words);
 }
 
 Outcome CommandLine::Help(const QStringList &words) {

@@ -26,9 +26,11 @@ QStringList AlignedLines(const QList<QStringList> &rows) {
     const QList<qsizetype> widths = Widths(rows);
     QStringList lines;
     for (const QStringList &row : rows) {
-        QStringList cells;
-        for (qsizetype column = 0; column < row.size(); ++column)
-            cells << (column + 1 < row.size() ? row[column].leftJustified(widths[column]) : row[column]);
+        QStringList cells = row;
+        while (!cells.isEmpty() && cells.last().isEmpty())
+            cells.removeLast();
+        for (qsizetype column = 0; column + 1 < cells.size(); ++column)
+            cells[column] = cells[column].leftJustified(widths[column]);
         lines << cells.join(gap);
     }
     return lines;

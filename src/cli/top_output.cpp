@@ -86,7 +86,7 @@ void TopOutput::PrintUrl(const QJsonObject &url) const {
     if (program.topEngines.AllUrls())
         call.console.Print(url[u"url"_s].toString());
     for (const QString &line : AlignedLines(rows))
-        call.console.Print(line.trimmed());
+        call.console.Print(line);
     const QString count = engines.size() == 1 ? u"1 engine"_s : u"%1 engines"_s.arg(engines.size());
     call.console.Print(u"%1: %2 successful, %3 failed, %4 canceled"_s.arg(count)
                            .arg(CountOf(engines, u"Successful submission"_s))

@@ -23,7 +23,7 @@ const QString usualColour = u"\x1B[0m"_s;
 } // namespace
 
 LiveLines::LiveLines(Console &standardStreams, Source linesNow, QString goodWord)
-    : console(standardStreams), source(std::move(linesNow)), green(std::move(goodWord)) {
+    : console(standardStreams), source(std::move(linesNow)), greenWord(std::move(goodWord)) {
     redraw.setSingleShot(true);
     redraw.setInterval(pace);
     connect(&redraw, &QTimer::timeout, this, &LiveLines::Redraw);
@@ -45,7 +45,7 @@ void LiveLines::Redraw() {
     for (const QString &line : lines) // a longer line would wrap and spoil the way back up
         drawing += WithoutControls(line).left(console.Columns() - 1) + eraseLineEnd + u'\n';
     if (console.HasColour())
-        drawing.replace(green, greenColour + green + usualColour);
+        drawing.replace(greenWord, greenColour + greenWord + usualColour);
     console.Draw(UpToFirstLine() + drawing);
     drawnLines = lines.size();
 }

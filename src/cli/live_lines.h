@@ -31,7 +31,7 @@ private:
 
     Console &console;
     Source source;
-    QString green; ///< word
+    QString greenWord;
     QTimer redraw;
     qsizetype drawnLines = 0;
 };

@@ -49,7 +49,7 @@ QList<QCommandLineOption> CommonOptions() {
 QList<QCommandLineOption> ProgramOptions() {
     return {{u"home"_s, u"the program's folder, which holds the site database ng.dll"_s, u"DIR"_s},
             {{u"h"_s, u"help"_s}, u"print this help"_s},
-            {u"version"_s, u"print the version"_s}};
+            {{u"v"_s, u"version"_s}, u"print the version"_s}};
 }
 
 QString GeneralHelp() { return ReadHelp(u"general"_s).arg(CommandLines(), OptionLines(ProgramOptions())); }

@@ -32,7 +32,7 @@ public:
     SiteSourceReading Read() {
         QFile source(file);
         if (!source.open(QIODevice::ReadOnly))
-            Find(0, u"The file can't be read."_s);
+            Find(0, source.exists() ? u"The file can't be read."_s : u"There is no such file."_s);
         else
             ReadText(source.readAll());
         return result;

@@ -47,25 +47,24 @@ ParkOptions ReadParkOptions(const QStringList &arguments) {
     parser.addOptions(
         {{{u"h"_s, u"help"_s}, u"Shows this help."_s},
          {{u"v"_s, u"version"_s}, u"Shows the version."_s},
-         {u"port"_s, u"Listens on port N; 0 takes a free one."_s, u"N"_s, u"8571"_s},
-         {u"latency"_s, u"Delays the first byte of every answer."_s, u"MS"_s, u"0"_s},
+         {u"port"_s, u"Listens on port N (8571); 0 takes a free one."_s, u"N"_s, u"8571"_s},
+         {u"latency"_s, u"Delays the first byte of every answer by MS milliseconds."_s, u"MS"_s, u"0"_s},
          {u"log"_s, u"Appends one line a request to FILE."_s, u"FILE"_s},
          {u"tls-port"_s, u"Serves TLS on port N and those behind it, in the ways of --list."_s, u"N"_s},
          {u"proxy-port"_s, u"Offers proxies on port N and those behind it, in the ways of --list."_s, u"N"_s},
          {u"certificates"_s, u"Keeps the certificates of --tls-port in FOLDER."_s, u"FOLDER"_s},
          {u"list"_s, u"Lists the behaviours and the ways to them, and ends."_s}});
-    ParkOptions options;
     if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
-        const bool extra = parser.errorText().isEmpty();
-        options.task = ParkOptions::Task::WrongUse;
-        options.text = extra ? u"Unexpected argument '%1'."_s.arg(parser.positionalArguments().first())
-                             : parser.errorText();
-        return options;
+        const QStringList extra = parser.positionalArguments();
+        return Message(ParkOptions::Task::WrongUse, parser.errorText().isEmpty()
+                                                        ? u"Unexpected argument '%1'."_s.arg(extra.first())
+                                                        : parser.errorText());
     }
     if (parser.isSet(u"help"_s))
         return Message(ParkOptions::Task::Help, parser.helpText());
     if (parser.isSet(u"version"_s))
         return Message(ParkOptions::Task::Version, u"lanterra-park " LANTERRA_VERSION "\n"_s);
+    ParkOptions options;
     if (parser.isSet(u"list"_s))
         options.task = ParkOptions::Task::List;
     options.logPath = parser.value(u"log"_s);

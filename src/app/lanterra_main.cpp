@@ -39,7 +39,7 @@ void AddOptions(QCommandLineParser &parser) {
     parser.addOption({{u"h"_s, u"help"_s}, u"show this help"_s});
     parser.addOption({{u"v"_s, u"version"_s}, u"show the version"_s});
     parser.addOption({u"home"_s, u"folder of the site database, the projects and the help"_s, u"DIR"_s});
-    parser.addOption({u"colours"_s, u"light, dark, or as the desktop (the usual)"_s, u"SCHEME"_s});
+    parser.addOption({u"colours"_s, u"light or dark; without it as the desktop"_s, u"SCHEME"_s});
 }
 
 int RunWindow(int argc, char **argv, const QCommandLineParser &parser) {
@@ -67,6 +67,9 @@ int RunWindow(int argc, char **argv, const QCommandLineParser &parser) {
 QString WrongUse(QCommandLineParser &parser, const QStringList &arguments) {
     if (!parser.parse(arguments))
         return parser.errorText();
+    const QString colours = parser.value(u"colours"_s);
+    if (!colours.isEmpty() && SchemeOf(colours) == ColourScheme::FollowDesktop)
+        return u"--colours takes light or dark, not '%1'."_s.arg(colours);
     return parser.positionalArguments().size() > 1 ? u"One project at most."_s : QString();
 }
 

@@ -19,7 +19,8 @@ QByteArrayList ReadLines(const QString &path) {
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QByteArrayList lines = file.readAll().split('\n');
-    lines.removeLast(); // behind the last line end
+    if (lines.last().isEmpty()) // behind the last line end
+        lines.removeLast();
     return lines;
 }
 

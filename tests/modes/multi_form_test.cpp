@@ -93,6 +93,22 @@ TEST_F(MultiFormTest, ItsListIsFilledOnceAtEachShowingAndTakesWhatIsTyped) {
     EXPECT_EQ(Listed(), QString()) << "the bare scheme is no address";
 }
 
+TEST_F(MultiFormTest, ItsBoxesAddAnAddressWithASchemeAndEditOrRemoveTheSelectedOne) {
+    record.txtURL.SetText(QString());
+    form.Activate();
+    dialogs.lines = {u"a.example"_s, u"HTTPS://b"_s, u" "_s, u"http://"_s, u" "_s, u"c"_s};
+    for (int i = 0; i < 4; ++i)
+        form.AddUrl();
+    form.EditUrl(); // none is selected
+    form.ListedURLs.SetListIndex(1);
+    form.EditUrl();
+    form.EditUrl();
+    EXPECT_EQ(dialogs.inputBoxes.back().defaultText, u"HTTPS://b"_s);
+    EXPECT_EQ(Listed(), u"http://a.example c"_s);
+    form.RemoveUrl();
+    EXPECT_EQ(Listed(), u"http://a.example"_s);
+}
+
 TEST_F(MultiFormTest, TheScrollBarShowsTheTextsOfItsSlotOrTheSharedOnes) {
     Enter(u"http://a.example http://b.example"_s);
     record.txtTitle.SetText(u"A"_s);

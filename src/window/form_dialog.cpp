@@ -1,7 +1,8 @@
 #include "window/form_dialog.h"
 
+#include "window/screen_room.h"
+
 #include <QLayout>
-#include <QScreen>
 #include <algorithm>
 
 namespace lanterra {
@@ -25,8 +26,13 @@ void FormDialog::FindPlace() {
 
 // A dialog takes the height of its texts on one line each unless it is told what wrapping them needs.
 void FormDialog::FitHeight() {
+    int needed = height();
     if (layout() && layout()->hasHeightForWidth())
-        resize(width(), std::max(height(), layout()->totalMinimumHeightForWidth(width())));
+        needed = std::max(needed, layout()->totalMinimumHeightForWidth(width()));
+    const QSize room = RoomOnScreen(*this);
+    if (layout() && needed > room.height())
+        layout()->setSizeConstraint(QLayout::SetNoConstraint); // the largest boxes give way
+    resize(QSize(width(), needed).boundedTo(room));
 }
 
 } // namespace lanterra

@@ -1,6 +1,7 @@
 #include "window/help_window.h"
 
 #include "ui_help_window.h"
+#include "window/screen_room.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -54,6 +55,7 @@ void GiveRoom(QTextDocument &page, const QBrush &line) {
 HelpWindow::HelpWindow(QWidget *parent) : QDialog(parent), ui(std::make_unique<Ui::HelpWindow>()) {
     ui->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
+    resize(size().boundedTo(RoomOnScreen(*this)));
     ui->index->setModel(&pages);
     ui->splitter->setSizes({indexWidth, width() - indexWidth});
     ui->splitter->setStretchFactor(1, 1);

@@ -9,6 +9,7 @@
 #include "window/main_menus.h"
 #include "window/other_data_pane.h"
 #include "window/run_status.h"
+#include "window/screen_room.h"
 #include "window/search_pane.h"
 #include "window/sites_pane.h"
 #include "window/statistics_pane.h"
@@ -25,6 +26,7 @@ namespace lanterra {
 MainWindow::MainWindow(Program &theProgram, WidgetForms &widgetForms)
     : program(theProgram), ui(std::make_unique<Ui::MainWindow>()) {
     ui->setupUi(this);
+    resize(size().boundedTo(RoomOnScreen(*this)));
     ApplyIcons(*this);
     AddPanes(widgetForms);
     JoinPaneButtons();

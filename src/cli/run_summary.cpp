@@ -27,7 +27,7 @@ QString VerdictWord(Verdict verdict) {
 }
 
 QJsonObject SiteAsJson(const QString &name, const SiteOutcome &outcome, const QString &reportFolder) {
-    const bool hasPage = CanHavePage(name);
+    const bool hasPage = outcome.verdict != Verdict::NotSelected && CanHavePage(name);
     return {
         {u"name"_s, name},
         {u"verdict"_s, VerdictWord(outcome.verdict)},

@@ -53,6 +53,10 @@ _lanterra_offer_argument() {
         _lanterra_offer "$(_lanterra_commands_of "${COMP_WORDS[0]}")"
     elif [ "$command:$COMP_CWORD" = "sitedb:$first" ]; then
         _lanterra_offer "build dump check"
+    elif [ "$command:$COMP_CWORD" = "cipher:$first" ]; then
+        _lanterra_offer "encipher decipher"
+    elif [[ $command == cipher || $command == search || $command == links ]]; then
+        COMPREPLY=()
     elif [ "$command" = sitedb ]; then
         _lanterra_offer_files "*"
     elif [ "$COMP_CWORD" -eq "$first" ]; then

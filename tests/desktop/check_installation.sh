@@ -83,6 +83,7 @@ check "projects are completed" offers "shop.rts" lanterra-cli set shop
 check "all fields are completed" \
     offers "$(lanterra-cli show fields.rts | sed 's/=.*/=/' | sort | tr '\n' ' ' | sed 's/ $//')" lanterra-cli new a.rts ""
 check "values of a field are completed" offers "Business" lanterra-cli set shop.rts Combo2 = B
+check "tasks are completed" offers "decipher" lanterra-cli cipher d
 check "the window's options are completed" offers "--help --home" lanterra --h
 check "the practice web's options are completed" offers "--log" lanterra-park --lo
 

@@ -14,8 +14,8 @@
 
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QMenu>
 #include <QTimer>
+#include <QWidget>
 #include <algorithm>
 #include <cstdio>
 #include <fstream>

@@ -2,7 +2,6 @@
 
 #include "park/json_resource.h"
 
-#include <QJsonArray>
 #include <QJsonObject>
 #include <QVariant>
 

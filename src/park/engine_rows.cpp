@@ -3,7 +3,6 @@
 #include "support/text_file.h"
 
 #include <QJsonObject>
-#include <QStringList>
 
 using namespace Qt::StringLiterals;
 

@@ -3,6 +3,7 @@
 #include "park/json_resource.h"
 
 #include <QJsonArray>
+#include <QJsonObject>
 #include <QUrl>
 #include <algorithm>
 

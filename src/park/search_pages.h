@@ -3,6 +3,8 @@
 #include "park/site_pages.h"
 #include "park/site_table.h"
 
+#include <QJsonValue>
+
 namespace lanterra {
 
 /// One search of the practice web.

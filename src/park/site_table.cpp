@@ -7,6 +7,7 @@
 #include "support/text_file.h"
 
 #include <QJsonArray>
+#include <QJsonObject>
 #include <QUrl>
 #include <QVariant>
 

@@ -3,8 +3,6 @@
 #include "park/practice_site.h"
 
 #include <QHash>
-#include <QJsonObject>
-
 #include <vector>
 
 namespace lanterra {

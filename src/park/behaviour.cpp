@@ -4,7 +4,6 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;

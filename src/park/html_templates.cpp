@@ -3,7 +3,6 @@
 #include "park/slot_text.h"
 
 #include <QFile>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;

@@ -8,7 +8,6 @@
 #include <QBasicTimer>
 #include <QObject>
 #include <QTcpSocket>
-
 #include <memory>
 
 namespace lanterra {

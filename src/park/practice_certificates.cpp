@@ -6,7 +6,6 @@
 #include <QSslCertificate>
 #include <QSslKey>
 #include <QTemporaryDir>
-
 #include <algorithm>
 #include <optional>
 

@@ -6,7 +6,6 @@
 #include <QBasicTimer>
 #include <QObject>
 #include <QTcpSocket>
-
 #include <functional>
 #include <memory>
 

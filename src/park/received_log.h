@@ -4,7 +4,6 @@
 #include "park/http_message.h"
 
 #include <QDateTime>
-
 #include <deque>
 
 namespace lanterra {

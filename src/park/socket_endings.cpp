@@ -1,7 +1,6 @@
 #include "park/socket_endings.h"
 
 #include <QSslSocket>
-
 #include <sys/socket.h>
 
 namespace lanterra {

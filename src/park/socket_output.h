@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QTcpSocket>
-
 #include <functional>
 
 namespace lanterra {

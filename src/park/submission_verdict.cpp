@@ -1,7 +1,6 @@
 #include "park/submission_verdict.h"
 
 #include <QRegularExpression>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;

@@ -15,6 +15,22 @@ HttpAnswer PageAnswer(const QByteArray &page) {
     return answer;
 }
 
+/// A page that holds these words, with their status.
+HttpAnswer PageAnswer(const QByteArray &page, const AnswerText &words) {
+    HttpAnswer answer = PageAnswer(page);
+    answer.status = words.status;
+    answer.reason = words.reason;
+    return answer;
+}
+
+HttpAnswer PlainAnswer(const QByteArray &text) {
+    HttpAnswer answer = PageAnswer(text);
+    answer.contentType = "text/plain; charset=utf-8";
+    return answer;
+}
+
+QByteArray LocationLine(const QString &address) { return "Location: " + address.toLatin1() + "\r\n"; }
+
 bool OnlyReads(const HttpRequest &request) { return request.method == "GET" || request.method == "HEAD"; }
 
 } // namespace
@@ -63,16 +79,15 @@ const Behaviour *Park::BehaviourAt(const QByteArray &path) const {
 }
 
 HttpAnswer Park::AnswerSite(const PracticeSite &site, const HttpRequest &request) {
+    const QByteArray home = site.Home().toLatin1();
     // A script that is the home page itself shows its form to whoever sends nothing.
-    const bool asksForForm =
-        request.path == site.Home().toLatin1() && request.query.isEmpty() && OnlyReads(request);
+    const bool asksForForm = request.path == home && request.query.isEmpty() && OnlyReads(request);
     if (request.path == site.path && !asksForForm) {
         const bool fits = site.takesEither || request.method == (site.post ? "POST" : "GET");
         return fits ? Submit(site, request) : Message(u"wrong-method"_s);
     }
     if (!OnlyReads(request))
         return Message(u"wrong-method"_s);
-    const QByteArray home = site.Home().toLatin1();
     if (request.path == home)
         return PageAnswer(sitePages.FormPage(site));
     if (request.path == home + "thanks.html")
@@ -118,9 +133,7 @@ QString Park::Judge(const PracticeSite &site, const QList<FormField> &fields, QS
 
 HttpAnswer Park::SiteAnswer(const PracticeSite &site, const AnswerText &text,
                             const QHash<QString, QString> &values) {
-    HttpAnswer answer = PageAnswer(sitePages.AnswerPage(site, text, values));
-    answer.status = text.status;
-    answer.reason = text.reason;
+    HttpAnswer answer = PageAnswer(sitePages.AnswerPage(site, text, values), text);
     answer.framing = site.framing;
     answer.mayKeepAlive = site.keepsAlive;
     answer.delay = site.delay;
@@ -128,7 +141,7 @@ HttpAnswer Park::SiteAnswer(const PracticeSite &site, const AnswerText &text,
     if (!text.location.isEmpty()) {
         const QString location =
             FillSlots(text.location, [&values](QStringView name) { return values.value(name.toString()); });
-        answer.extraHeaders = "Location: " + location.toLatin1() + "\r\n";
+        answer.extraHeaders = LocationLine(location);
     }
     return answer;
 }
@@ -144,9 +157,7 @@ HttpAnswer Park::AnswerMaker(const MakerPage &page, const HttpRequest &request) 
     }
     if (page.text.isEmpty())
         return Message(page.answer);
-    HttpAnswer answer = PageAnswer(QByteArray(page.text).replace("{{origin}}", origin.toLatin1()));
-    answer.contentType = "text/plain; charset=utf-8";
-    return answer;
+    return PlainAnswer(QByteArray(page.text).replace("{{origin}}", origin.toLatin1()));
 }
 
 HttpAnswer Park::AnswerSearch(const PracticeSearch &search, const HttpRequest &request) {
@@ -165,24 +176,18 @@ HttpAnswer Park::Direct(const HttpRequest &request) const {
     HttpAnswer answer;
     answer.status = 302;
     answer.reason = "Found";
-    answer.extraHeaders = "Location: " + (origin + site->Home()).toLatin1() + "\r\n";
+    answer.extraHeaders = LocationLine(origin + site->Home());
     return answer;
 }
 
 HttpAnswer Park::Count(const HttpRequest &request) {
     received.Add(u"Hit counter"_s, u"counted"_s, request, ParseFormFields(request.query));
-    HttpAnswer answer;
-    answer.contentType = "text/plain; charset=utf-8";
-    answer.body = request.path == "/counter/first" ? "first run counted\n" : "run counted\n";
-    return answer;
+    return PlainAnswer(request.path == "/counter/first" ? "first run counted\n" : "run counted\n");
 }
 
 HttpAnswer Park::Message(const QString &answerKey) const {
     const AnswerText text = answers.Find(answerKey);
-    HttpAnswer answer = PageAnswer(parkPages.MessagePage(text));
-    answer.status = text.status;
-    answer.reason = text.reason;
-    return answer;
+    return PageAnswer(parkPages.MessagePage(text), text);
 }
 
 } // namespace lanterra

@@ -2,6 +2,8 @@
 
 #include "support/code_page.h"
 
+#include <algorithm>
+
 namespace lanterra {
 
 namespace {
@@ -31,6 +33,12 @@ QList<FormField> ParseFormFields(QByteArrayView encoded, qsizetype maximum) {
         encoded = end < 0 ? QByteArrayView() : encoded.sliced(end + 1);
     }
     return fields;
+}
+
+QString ValueOf(const QList<FormField> &fields, const QString &name) {
+    const auto found = std::find_if(fields.begin(), fields.end(),
+                                    [&name](const FormField &field) { return field.name == name; });
+    return found == fields.end() ? QString() : found->value;
 }
 
 } // namespace lanterra

@@ -16,4 +16,7 @@ struct FormField {
 /// "%" without two hexadecimal digits stands for itself. Never fails; at most `maximum` fields come back.
 QList<FormField> ParseFormFields(QByteArrayView encoded, qsizetype maximum = 200);
 
+/// The first value that a field of this name has; empty if it is missing.
+QString ValueOf(const QList<FormField> &fields, const QString &name);
+
 } // namespace lanterra

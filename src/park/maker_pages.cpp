@@ -1,7 +1,6 @@
 #include "park/maker_pages.h"
 
 #include "park/json_resource.h"
-#include "park/submission_verdict.h"
 
 #include <QJsonObject>
 #include <QVariant>

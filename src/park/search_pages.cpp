@@ -3,7 +3,6 @@
 #include "park/json_resource.h"
 
 #include <QJsonArray>
-#include <QJsonObject>
 #include <QUrl>
 #include <algorithm>
 
@@ -41,14 +40,14 @@ std::vector<const PracticeSite *> BestMatches(const PracticeSearch &search, cons
 
 SearchPages::SearchPages() {
     const QJsonDocument table = ReadJsonResource(u":/park/search_engines.json"_s);
+    const QJsonObject looks = ReadJsonResource(u":/park/search_looks.json"_s).object();
     for (const QJsonValue row : table["searches"_L1].toArray())
-        Add(row, false);
-    Add(table["links"_L1], true);
+        Add(row, false, looks);
+    Add(table["links"_L1], true, looks);
 }
 
 // The words stand behind the last name of the start of the query.
-void SearchPages::Add(const QJsonValue &row, bool findsLinks) {
-    static const QJsonDocument looks = ReadJsonResource(u":/park/search_looks.json"_s);
+void SearchPages::Add(const QJsonValue &row, bool findsLinks, const QJsonObject &looks) {
     const QString start = row["start"_L1].toString();
     PracticeSearch search;
     search.frame.name = row["engine"_L1].toString();

@@ -3,7 +3,7 @@
 #include "park/site_pages.h"
 #include "park/site_table.h"
 
-#include <QJsonValue>
+#include <QJsonObject>
 
 namespace lanterra {
 
@@ -29,7 +29,7 @@ public:
                           const QString &origin) const;
 
 private:
-    void Add(const QJsonValue &row, bool findsLinks);
+    void Add(const QJsonValue &row, bool findsLinks, const QJsonObject &looks);
 
     QHash<QByteArray, PracticeSearch> searches; ///< by path
     SitePages pages;

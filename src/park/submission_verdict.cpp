@@ -1,7 +1,6 @@
 #include "park/submission_verdict.h"
 
 #include <QRegularExpression>
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -39,12 +38,6 @@ QString ObjectionToValue(const PracticeSite &site, const SiteField &field, const
 }
 
 } // namespace
-
-QString ValueOf(const QList<FormField> &fields, const QString &name) {
-    const auto found = std::find_if(fields.begin(), fields.end(),
-                                    [&name](const FormField &field) { return field.name == name; });
-    return found == fields.end() ? QString() : found->value;
-}
 
 Objection FindObjection(const PracticeSite &site, const QList<FormField> &fields) {
     for (const SiteField &field : site.fields) {

@@ -5,9 +5,6 @@
 
 namespace lanterra {
 
-/// The first value that a field of this name has; empty if it is missing.
-QString ValueOf(const QList<FormField> &fields, const QString &name);
-
 /// What a practice site finds wrong with what it received.
 struct Objection {
     QString answer; ///< key of the refusal; empty if all is in order

@@ -12,6 +12,7 @@ namespace lanterra {
 /// handed out behind it would be waited for. As long as this lives, the next run of a job is cancelled too.
 class CancelOnInterrupt {
 public:
+    /// The run must outlive this.
     explicit CancelOnInterrupt(SubmissionRun &submissionRun) : run(submissionRun) {
         again.setInterval(pace);
         QObject::connect(&again, &QTimer::timeout, &again, [this] { Press(); });

@@ -7,6 +7,7 @@ namespace lanterra {
 /// Reads the arguments of the process, finds the command and runs it.
 class CommandLine {
 public:
+    /// Both must outlive this.
     CommandLine(Console &standardStreams, const SystemDoors &systemDoors)
         : console(standardStreams), doors(systemDoors) {}
 

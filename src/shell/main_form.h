@@ -40,6 +40,7 @@ public:
         HelpViewer *help; ///< none on a face that shows no help
     };
 
+    /// All parts must outlive the form.
     explicit MainForm(const Parts &theParts);
 
     // The pane buttons. Each shows its pane, also during a run. That of FraSta is with the statistics.

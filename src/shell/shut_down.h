@@ -22,6 +22,7 @@ public:
         QString scratchFile; ///< deleted
     };
 
+    /// All parts must outlive this.
     explicit ShutDown(const Parts &theParts) : parts(theParts) {}
 
     /// Shuts the program down; a second call does nothing. Of a start that was cut short nothing is stored:

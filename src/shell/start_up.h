@@ -37,6 +37,7 @@ public:
         const EventQueue &queue;
     };
 
+    /// All parts must outlive this.
     explicit StartUp(const Parts &theParts) : parts(theParts) {}
 
     /// Starts the program. `commandLine` is the path of a project or empty; it counts only if no last project

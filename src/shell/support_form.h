@@ -33,7 +33,8 @@ public:
         QString programFolder; ///< with a separator at its end; takes the scratch file
     };
 
-    /// The client is the form's own. It keeps a proxy that was given once, also when that is switched off.
+    /// All parts must outlive the form. The client is its own. It keeps a proxy that was given once, also
+    /// when that is switched off.
     SupportForm(const Parts &theParts, std::unique_ptr<HttpClient> httpClient);
 
     /// Loads the form with its first values, shows it as a blocking dialog and unloads it, which gives up a

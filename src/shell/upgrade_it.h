@@ -31,6 +31,7 @@ public:
         std::chrono::milliseconds patience{30'000}; ///< after which a check has failed
     };
 
+    /// All parts must outlive this; the client is its own.
     UpgradeIt(const Parts &theParts, std::unique_ptr<HttpClient> httpClient);
 
     /// Looks for a newer version and returns at once. A find is held for ShowResult; what fails is told only

@@ -29,7 +29,7 @@ public:
         QString scratchFile; ///< takes the answer to a subscription; nothing reads it
     };
 
-    /// The client is the form's own and gets no proxy.
+    /// All parts must outlive the form. The client is its own and gets no proxy.
     WelcomeForm(const Parts &theParts, std::unique_ptr<HttpClient> httpClient);
 
     /// Loads the form, shows it as a blocking dialog and unloads it, however it was closed. Yields.

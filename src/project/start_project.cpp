@@ -50,7 +50,9 @@ bool StartProject::CreateProject(const QString &typedName) {
     if (made.stored)
         return true;
     path.Base.clear();
-    dialogs.Show({u"The project could not be created: "_s + made.failure, u"Error"_s, BoxIcon::Critical});
+    MessageBox refusal{u"The project could not be created: "_s + made.failure, u"Error"_s, BoxIcon::Critical};
+    refusal.detail = u"A new project is a copy of %1, kept as %2."_s.arg(path.MasterFile(), file);
+    dialogs.Show(refusal);
     return false;
 }
 

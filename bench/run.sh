@@ -41,7 +41,8 @@ make_project() {
     "$cli" --home "$home" select "$home/p.rts" --all >/dev/null
 }
 
-submit() { printf '%s\n' "$cli" --home "$work/$1" submit "$work/$1/p.rts" --json; }
+# measure_submit NAME [OPTION...]: wall time, processor time and peak memory of submitting a project.
+measure_submit() { "$measure" "$runs" "$cli" --home "$work/$1" submit "$work/$1/p.rts" --json "${@:2}"; }
 
 # median_ms COMMAND...: the median of the "milliseconds" that several runs of a command print.
 median_ms() {
@@ -51,11 +52,7 @@ median_ms() {
 }
 
 # First dispatch to last verdict of a project.
-dispatch_ms() {
-    local command
-    mapfile -t command < <(submit "$1")
-    median_ms "${command[@]}"
-}
+dispatch_ms() { median_ms "$cli" --home "$work/$1" submit "$work/$1/p.rts" --json; }
 
 # make_engines NAME COUNT ADDRESS: the engine file of a project's folder.
 make_engines() {
@@ -104,7 +101,7 @@ make_project quick 500 45 "$quick_form"
 curl_config quick "$work/curl.txt"
 curl_command=(curl --silent --parallel --parallel-immediate --parallel-max 5 --config "$work/curl.txt")
 ours=$(dispatch_ms quick)
-read -r _ our_cpu our_peak < <("$measure" "$runs" $(submit quick))
+read -r _ our_cpu our_peak < <(measure_submit quick)
 read -r curl_wall curl_cpu _ < <("$measure" "$runs" "${curl_command[@]}")
 row "500 sites, first dispatch to last verdict" "$ours ms" ""
 row "curl, the same requests" "$curl_wall ms" ""
@@ -123,7 +120,7 @@ start_park near --latency 50
 make_project urls 100 45 "${near}behave/plain"
 "$cli" --home "$work/urls" set "$work/urls/p.rts" chkMultiSameDesc=1 >/dev/null
 "$cli" --home "$work/urls" urls "$work/urls/p.rts" "${quick}"page{0..9} >/dev/null
-read -r urls_wall _ _ < <("$measure" "$runs" $(submit urls) --urls)
+read -r urls_wall _ _ < <(measure_submit urls --urls)
 row "job over ten URLs and 100 sites at 50 ms, over ten seconds" "$(ratio "$urls_wall" 10000)" "1.03"
 
 # 13 engines at 300 ms: the spider's five can't be faster than three rounds.
@@ -136,14 +133,14 @@ row "13 top engines at 300 ms latency, over the ideal 0.9 s" "$(ratio "$engines_
 # Five sites that never answer: the processor time of waiting ten seconds more.
 make_project wait1 5 1 "$silent_form"
 make_project wait11 5 11 "$silent_form"
-read -r _ short_cpu _ < <("$measure" "$runs" $(submit wait1))
-read -r _ long_cpu _ < <("$measure" "$runs" $(submit wait11))
+read -r _ short_cpu _ < <(measure_submit wait1)
+read -r _ long_cpu _ < <(measure_submit wait11)
 row "processor time of waiting, share of a core" \
     "$(awk -v a="$long_cpu" -v b="$short_cpu" 'BEGIN { printf "%.3f %%", (a - b) / 100 }')" "0.5 %"
 
 # Memory with and without one answer of 60 MiB.
 make_project big 500 45 "$quick_form" "${quick}behave/60-mib"
-read -r _ _ big_peak < <("$measure" "$runs" $(submit big))
+read -r _ _ big_peak < <(measure_submit big)
 row "peak memory, 500 sites" "$((our_peak / 1024)) MiB" "40 MiB"
 row "more with one answer of 60 MiB" "$((big_peak - our_peak)) KiB" "1024 KiB"
 

@@ -36,9 +36,7 @@ protected:
             EverySiteAnswers("200 OK");
     }
 
-    QString Report(const QString &name) const {
-        return ReadFileText(home.filePath(u"Projects/Project1/"_s + name));
-    }
+    QString Report(const QString &name) const { return ReadFileText(InProjects(u"Project1/"_s + name)); }
     void Cancel(void (SubmissionRun::*entry)()) {
         forms.onMenu[PopupMenu::Cancel2] = [this, entry] { entry ? (Run().*entry)() : void(); };
         Run().cmdCancel_Click();

@@ -2,8 +2,8 @@
 #include "support/code_page.h"
 #include "support/whole_file.h"
 #include "tests/fakes/program_fixture.h"
+#include "tests/file_bytes.h"
 
-#include <QDir>
 #include <QRegularExpression>
 #include <QUrl>
 
@@ -12,46 +12,29 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Attributes = QHash<QString, QString>;
-
-/// The attributes of a tag as a browser reads them, also bare ones and such without quotes.
-Attributes AttributesOf(const QString &tag) {
-    static const QRegularExpression attribute(u"\\s([^\\s=]+)(?:=(?:\"([^\"]*)\"|(\\S*)))?"_s);
-    Attributes attributes;
-    for (const QRegularExpressionMatch &match : attribute.globalMatch(tag))
-        attributes.insert(match.captured(1), match.captured(2) + match.captured(3));
-    return attributes;
+/// An attribute of a tag as a browser reads it, also without quotes.
+QString Attribute(const QString &tag, const QString &name) {
+    const QRegularExpression pattern(u"\\s%1=(?:\"([^\"]*)\"|(\\S*))"_s.arg(name));
+    const QRegularExpressionMatch match = pattern.match(tag);
+    return match.captured(1) + match.captured(2);
 }
 
-/// A form of the page: what a browser sends of it, and its lists.
-struct PageForm {
-    Attributes attributes;
-    QList<FormField> fields; ///< with the last option chosen in each list
-    QStringList lists;       ///< "name size options"
-};
-
-QList<PageForm> FormsOf(const QString &page) {
-    static const QRegularExpression tags(u"<(/?(?:form|input|select|option))\\b([^>]*)>([^<]*)"_s);
-    QList<PageForm> forms;
-    for (const QRegularExpressionMatch &match : tags.globalMatch(page)) {
-        const QString tag = match.captured(1);
-        const Attributes has = AttributesOf(match.captured(2));
-        if (tag == u"form")
-            forms.append({has, {}, {}});
-        else if (tag == u"input" && has.contains(u"name"_s) &&
-                 (has[u"type"_s] != u"radio" || has.contains(u"checked"_s)))
-            forms.last().fields.append({has[u"name"_s], has[u"value"_s]});
-        else if (tag == u"select") {
-            forms.last().fields.append({has[u"name"_s], {}});
-            forms.last().lists.append(u"%1 %2 0"_s.arg(has[u"name"_s], has[u"size"_s]));
-        } else if (tag == u"option") {
-            QString &list = forms.last().lists.last();
-            list = list.section(u' ', 0, 1) + u" %1"_s.arg(list.section(u' ', 2).toInt() + 1);
-            const QString text = match.captured(3).trimmed().replace(u"&amp;"_s, u"&"_s);
-            forms.last().fields.last().value = has.value(u"value"_s, text);
-        }
+/// What a browser sends of a form, with the last option chosen in each list.
+QByteArray Encoded(const QString &form) {
+    static const QRegularExpression tags(u"<(input|select|option)\\b([^>]*)>([^<]*)"_s);
+    QList<QStringList> fields;
+    for (const QRegularExpressionMatch &match : tags.globalMatch(form)) {
+        const QString has = match.captured(2);
+        const QString value = Attribute(has, u"value"_s);
+        if (match.captured(1) == u"option")
+            fields.last()[1] = has.contains(u"value"_s) ? value : match.captured(3).trimmed();
+        else if (has.contains(u" name="_s) && (!has.contains(u"radio"_s) || has.contains(u"checked"_s)))
+            fields.append({Attribute(has, u"name"_s), value});
     }
-    return forms;
+    QByteArrayList pairs;
+    for (const QStringList &field : fields)
+        pairs << field[0].toLatin1() + '=' + CodePage::Encode(field[1]).toPercentEncoding(" ");
+    return pairs.join('&').replace(' ', '+');
 }
 
 class SemiPageTest : public ProgramFixture {
@@ -71,27 +54,21 @@ protected:
         forms.onMenu[PopupMenu::Submit] = [this] { program->run.mnuSemi_Click(); };
     }
 
-    QString PagePath() const { return home.filePath(u"Projects/Project1/semi.htm"_s); }
-
     /// The page that SUBMIT leads to.
     QByteArray Written() {
         program->run.cmdStart_Click();
-        QFile file(PagePath());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return BytesOf(InProjects(u"Project1/semi.htm"_s));
     }
 
     /// Sends a form as a browser would. What the practice web makes of it.
-    Receipt Send(const PageForm &form) {
-        const QUrl action(form.attributes[u"action"_s]);
-        QByteArray body;
-        for (const FormField &field : form.fields)
-            body += (body.isEmpty() ? "" : "&") + field.name.toLatin1() + '=' +
-                    CodePage::Encode(field.value).toPercentEncoding().replace("%20", "+");
+    Receipt Send(const QString &form) {
+        const QString tag = form.section(u'>', 0, 0);
+        const QUrl action(Attribute(tag, u"action"_s));
         HttpRequest request;
-        request.method = form.attributes[u"method"_s].toUpper().toLatin1();
+        request.method = Attribute(tag, u"method"_s).toUpper().toLatin1();
         request.path = action.path().toLatin1();
         request.query = action.query().toLatin1();
-        (request.method == "POST" ? request.body : request.query) = body;
+        (request.method == "POST" ? request.body : request.query) = Encoded(form);
         park.Answer(request);
         return park.Received().Receipts().front();
     }
@@ -109,23 +86,9 @@ TEST_F(SemiPageTest, IsTheGoldenPageByteForByte) {
     program->collector.txtEmailText = u"stale@a"_s;
     program->collector.AllKeywords = u"k1%2C+k2"_s;
     const QByteArray page = Written();
-    QFile golden(QStringLiteral(GOLDEN_FOLDER "/semi.htm"));
-    ASSERT_TRUE(golden.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(page == golden.readAll());
+    EXPECT_TRUE(page == BytesOf(QStringLiteral(GOLDEN_FOLDER "/semi.htm")));
     EXPECT_FALSE(program->run.RunActive());
-    ASSERT_EQ(documents.opened.size(), 1U);
-    EXPECT_EQ(documents.opened[0].arguments, QStringList(PagePath()));
-}
-
-TEST_F(SemiPageTest, OffersAllOptionsOfEachSite) {
-    ListBox &sites = program->project.lists.List5;
-    sites.SetItems(sites.Items() + QStringList{u"Yahoo"_s});
-    QStringList lists;
-    for (const PageForm &form : FormsOf(CodePage::Decode(Written())))
-        lists += form.lists;
-    EXPECT_EQ(lists, (QStringList{u"category 1 183"_s, u"CATEGORY 1 39"_s, u"category 1 49"_s, u"cat 1 31"_s,
-                                  u"category 1 13"_s, u"state 5 54"_s, u"category 5 125"_s,
-                                  u"category 1 29"_s, u"category 1 123"_s}));
+    EXPECT_EQ(documents.Opened(), u'|' + InProjects(u"Project1/semi.htm"_s));
 }
 
 // The values stand in the golden page; here is what the sites make of them.
@@ -133,7 +96,7 @@ TEST_F(SemiPageTest, EachFormReachesItsSiteWithItsFields) {
     program->collector.txtEmailText = u"ann%2B1@a.example"_s;
     program->collector.AllKeywords = u"x%2C+y"_s;
     QStringList received;
-    for (const PageForm &form : FormsOf(CodePage::Decode(Written()))) {
+    for (const QString &form : CodePage::Decode(Written()).split(u"<form"_s).mid(1)) {
         const Receipt receipt = Send(form);
         received << u"%1 %2 %3 %4"_s.arg(receipt.site, receipt.outcome)
                         .arg(receipt.fields.size())
@@ -154,14 +117,6 @@ TEST_F(SemiPageTest, TwoValuesAreThoseOfTheLastRunWhateverTheFieldsSayNow) {
     const QByteArray page = Written();
     EXPECT_TRUE(page.contains("name=\"email\" value=ann%2B1@a.example>\r\n"));
     EXPECT_TRUE(page.contains("name=\"keywords\" value=\"x%2C+x%2C+x%2C+x%2C+x%2C+x\">\r\n"));
-}
-
-TEST_F(SemiPageTest, IsNotWrittenWhileAFieldIsEmpty) {
-    program->project.record.txtEmail.SetText(u" "_s);
-    EXPECT_TRUE(Written().isEmpty());
-    ASSERT_EQ(dialogs.boxes.size(), 1U);
-    EXPECT_EQ(dialogs.boxes[0].text, u"You must fill all text fields"_s);
-    EXPECT_TRUE(documents.opened.empty());
 }
 
 } // namespace

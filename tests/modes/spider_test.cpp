@@ -1,9 +1,8 @@
 #include "modes/spider.h"
-#include "tests/fakes/fake_http_client.h"
-#include "tests/fakes/scripted_event_queue.h"
+#include "tests/fakes/fake_doors.h"
+#include "tests/file_bytes.h"
 #include "tests/qt_printing.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -12,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class SpiderTest : public testing::Test {
+class SpiderTest : public testing::Test, protected FakeDoors {
 protected:
     SpiderTest() {
         QObject::connect(&spider, &Spider::TaskProgress, &spider,
@@ -48,19 +47,11 @@ protected:
     }
     QByteArray Page(int task) {
         spider.SetCurrentTask(task);
-        QFile file(spider.TaskItem(u"FileName"_s));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return BytesOf(spider.TaskItem(u"FileName"_s));
     }
 
     QTemporaryDir folder;
-    FakeClock clock;
-    ScriptedEventQueue queue{clock};
-    std::vector<FakeHttpClient *> clients;
-    Spider spider{queue, clock, [this] {
-                      auto client = std::make_unique<FakeHttpClient>();
-                      clients.push_back(client.get());
-                      return client;
-                  }};
+    Spider spider{queue, clock, All().makeClient};
     QList<int> ended;
 };
 

@@ -1,5 +1,6 @@
 #include "support/whole_file.h"
 #include "tests/fakes/program_fixture.h"
+#include "tests/file_bytes.h"
 
 using namespace lanterra;
 using namespace Qt::StringLiterals;
@@ -12,24 +13,20 @@ protected:
         EXPECT_TRUE(
             CopyWholeFile(QStringLiteral(LANTERRA_DATA_DIR "/hosts.ini"), home.filePath(u"hosts.ini"_s)));
         GivenSites({u"Alta"_s});
-        program->project.record.txtURL.SetText(u"http://a.example/?a&b {E}"_s);
-        program->project.record.multiUrlTable.SetCell(2, MultiUrlTable::urlColumn, u"http://slot.example/"_s);
+        Record().txtURL.SetText(u"http://a.example/?a&b {E}"_s);
+        Record().multiUrlTable.SetCell(2, MultiUrlTable::urlColumn, u"http://slot.example/"_s);
     }
 
-    static QByteArray Read(const QString &path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     QByteArray Written() {
         EXPECT_TRUE(program->top9Page.WriteTop9Page());
         EXPECT_EQ(documents.opened.back().arguments, QStringList(program->top9Page.Path()));
-        return Read(home.filePath(u"Projects/Project1/top9single.htm"_s));
+        return BytesOf(InProjects(u"Project1/top9single.htm"_s));
     }
 };
 
 TEST_F(Top9PageTest, IsTheGoldenPageByteForByte) {
-    program->project.record.txtName1.SetText(u"Ann"_s);
-    EXPECT_EQ(Written(), Read(QStringLiteral(GOLDEN_FOLDER "/top9single.htm")));
+    Record().txtName1.SetText(u"Ann"_s);
+    EXPECT_EQ(Written(), BytesOf(QStringLiteral(GOLDEN_FOLDER "/top9single.htm")));
 }
 
 TEST_F(Top9PageTest, AFrameIsPrintedIfItsEngineIsOnAndALinkAlways) {
@@ -45,7 +42,7 @@ TEST_F(Top9PageTest, AFrameIsPrintedIfItsEngineIsOnAndALinkAlways) {
 }
 
 TEST_F(Top9PageTest, IsToldInTheNoticeIfItCannotBeWritten) {
-    ASSERT_TRUE(WriteWholeFile(home.filePath(u"Projects/Project1"_s), "in the way of the folder"));
+    ASSERT_TRUE(WriteWholeFile(InProjects(u"Project1"_s), "in the way of the folder"));
     EXPECT_FALSE(program->top9Page.WriteTop9Page());
     EXPECT_EQ(program->frame.Notice.Caption(),
               u"The page could not be written: "_s + program->top9Page.Path());
@@ -58,8 +55,8 @@ TEST_F(Top9PageTest, ItsBodyTakesTheUrlOfASlotAndLeavesTheFileOpen) {
     EXPECT_TRUE(program->top9Page.WriteTop9Body(2, file));
     EXPECT_TRUE(file.Write("after"));
     EXPECT_TRUE(file.Commit());
-    program->project.record.txtURL.SetText(u"http://slot.example/"_s);
-    EXPECT_EQ(Read(path), "before\r\n" + Written() + "after");
+    Record().txtURL.SetText(u"http://slot.example/"_s);
+    EXPECT_EQ(BytesOf(path), "before\r\n" + Written() + "after");
 }
 
 } // namespace

@@ -12,17 +12,13 @@ namespace {
 
 class TopEnginesTest : public ProgramFixture {
 protected:
-    void GivenEngines(const QStringList &names) {
+    void GivenProgram(const QStringList &engines) {
         QString text;
-        for (const QString &name : names)
+        for (const QString &name : engines)
             text += u"Search engine\r\nName=%1\r\nSearch=S %1\r\nReferer=R %1\r\n"
                     "Submit=http://e.example/?u=[URL]&m=[email]&n=[name]\r\n\r\n"_s.arg(name);
         QByteArray key = "plavac";
         WriteWholeFile(home.filePath(u"engine.dat"_s), Sifrant().Sifriraj(text.toLatin1(), key));
-    }
-    void GivenProgram(const QStringList &engines) {
-        if (!engines.isEmpty())
-            GivenEngines(engines);
         GivenSites({u"Site"_s});
         Record().txtURL.SetText(u"http://www.page.example/#top"_s);
         Record().txtEmail.SetText(u"me@page.example"_s);
@@ -59,14 +55,11 @@ protected:
         queue.WhenIdle([this] { Form().cmdSubmit_Click(); });
         program->run.mnuTop9_Click();
     }
-    QString Page(const QString &name) const {
-        return ReadFileText(home.filePath(u"Projects/Project1/report/"_s + name));
-    }
+    QString Page(const QString &name) const { return ReadFileText(InProjects(u"Project1/report/"_s + name)); }
     QString Link(const QString &name) const {
-        return u"file://"_s + home.filePath(u"Projects/Project1/report/"_s + name);
+        return u"file://"_s + InProjects(u"Project1/report/"_s + name);
     }
     TopEnginesForm &Form() { return program->frmTop9; }
-    ProjectRecord &Record() { return program->project.record; }
 };
 
 TEST_F(TopEnginesTest, ReportsEachSelectedEngineInTheOrderOfTheFile) {
@@ -113,7 +106,7 @@ TEST_F(TopEnginesTest, StopEndsTheUrlWhileCancelAndCloseEndTheJob) {
         Answer(SpiderClient(0));
     };
     for (const auto &[press, early, goesOn] : cases) {
-        QDir(home.filePath(u"Projects/Project1/report"_s)).removeRecursively();
+        QDir(InProjects(u"Project1/report"_s)).removeRecursively();
         dialogs.answers.push_back(BoxAnswer::Yes);
         const auto presses = [this, button = press] { (Form().*button)(); };
         queue.WhenIdle([&, atOnce = early] {
@@ -142,7 +135,7 @@ TEST_F(TopEnginesTest, ANoSubmitsTheFirstUrlAndEmptiesItsFolder) {
     GivenProgram({u"One"_s});
     GivenTwoUrls();
     Record().HScroll1.SetValue(1);
-    const QDir folder(home.filePath(u"Projects/Project1/report/URL0"_s));
+    const QDir folder(InProjects(u"Project1/report/URL0"_s));
     folder.mkpath(u"kept"_s);
     ASSERT_TRUE(WriteWholeFile(folder.filePath(u"engine7.htm"_s), "old"));
     EveryEngineAnswers();
@@ -152,7 +145,7 @@ TEST_F(TopEnginesTest, ANoSubmitsTheFirstUrlAndEmptiesItsFolder) {
               (QStringList{u"engine0.htm"_s, u"kept"_s, u"report.html"_s}));
     EXPECT_TRUE(Page(u"URL0/report.html"_s).contains(u"http://one.example/ 0 2024"_s));
     EXPECT_TRUE(Page(u"URL0/report.html"_s).endsWith(u"\r\n2 file:///bad\r\n"_s)) << "all URLs count";
-    EXPECT_FALSE(QDir(home.filePath(u"Projects/Project1/report/URL1"_s)).exists());
+    EXPECT_FALSE(QDir(InProjects(u"Project1/report/URL1"_s)).exists());
 }
 
 TEST_F(TopEnginesTest, AnEngineThatIsSelectedTooLateHasNoRow) {
@@ -170,23 +163,11 @@ TEST_F(TopEnginesTest, AnEngineThatIsSelectedTooLateHasNoRow) {
     EXPECT_TRUE(Page(u"URL0/report.html"_s).contains(Link(u"URL0/engine0.htm"_s) + u"\r\n1 file"_s));
 }
 
-TEST_F(TopEnginesTest, ItsBoxComesBackUntilAnEngineIsSelectedBesideIt) {
-    GivenProgram({u"One"_s});
-    Form().Load();
-    Form().List1.SetAllSelected(false);
-    EveryEngineAnswers();
-    dialogs.onShow = [this] { Form().List1.SetSelected(0, dialogs.boxes.size() == 3); };
-    Submit();
-    ASSERT_EQ(dialogs.boxes.size(), 3U);
-    EXPECT_EQ(dialogs.boxes[2].text, u"Please select search engines!"_s);
-    EXPECT_TRUE(Page(u"URL0/report.html"_s).contains(u"One,"_s));
-}
-
 TEST_F(TopEnginesTest, ARunBesideItTakesNeitherItsUrlsNorItsReports) {
     GivenProgram({u"One"_s});
     GivenTwoUrls();
     program->project.lists.List1.SetAllSelected(false);
-    const QString runReport = home.filePath(u"Projects/Project1/report.htm"_s);
+    const QString runReport = InProjects(u"Project1/report.htm"_s);
     const auto run = [&] {
         EXPECT_FALSE(program->files.mnuFileOpen.Enabled()) << "the next URLs would be another project's";
         EveryEngineAnswers();
@@ -217,6 +198,7 @@ TEST_F(TopEnginesTest, ARunBesideItTakesNeitherItsUrlsNorItsReports) {
 
 TEST_F(TopEnginesTest, WithoutAnEngineFileTheModeWaitsUntilItsFormIsCancelled) {
     GivenProgram({});
+    QFile::remove(home.filePath(u"engine.dat"_s));
     queue.WhenIdle([this] { Form().cmdSubmit_Click(); });
     queue.WhenIdle([this] {
         EXPECT_FALSE(Form().Visible());

@@ -13,20 +13,19 @@ namespace {
 class WebSearchTest : public ProgramFixture {
 protected:
     WebSearchTest() {
-        QString hosts = u"[Search]\n"_s;
-        for (const QString &key :
-             u"AltaVista Excite HotBot HotBotMain Infoseek Lycos WebCrawler"_s.split(u' '))
-            hosts += key + u"=http://"_s + key + u".example/\n"_s;
-        WriteFileText(home.filePath(u"hosts.ini"_s), hosts);
+        QByteArray hosts = "[Search]\n";
+        for (const QByteArray key :
+             {"AltaVista", "Excite", "HotBot", "HotBotMain", "Infoseek", "Lycos", "WebCrawler"})
+            hosts += key + "=http://" + key + ".example/\n";
+        GivenHosts(hosts);
         StartProgram();
     }
 
     WebSearch &Form() { return program->webSearch; }
     /// The client of the pane, once it was asked for an answer.
     FakeHttpClient &Inet20() {
-        return **std::find_if(clients.begin(), clients.end(), [](const FakeHttpClient *client) {
-            return client->SaveFile().contains(u"/search/"_s);
-        });
+        return ClientThat(
+            [](const FakeHttpClient *client) { return client->SaveFile().contains(u"/search/"_s); });
     }
     void Search(const QString &engine, const QString &words = u"hats"_s) {
         Form().cobEngine.SetText(engine);

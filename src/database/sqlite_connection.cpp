@@ -3,6 +3,7 @@
 #include "database/stored_text.h"
 
 #include <QDir>
+#include <QSqlDatabase>
 #include <QSqlError>
 #include <QUrl>
 #include <QUuid>
@@ -139,11 +140,13 @@ bool SqliteConnection::Accept(const QSqlError &error) {
 
 QString IntegrityRefusal(SqliteConnection &connection) {
     QSqlQuery *query = connection.Execute(u"PRAGMA quick_check(1)"_s);
-    if (!query || !connection.Next(*query))
+    if (!query)
         return connection.Failure();
-    const bool passes = query->value(0).toString() == "ok"_L1;
+    const bool passes = connection.Next(*query) && query->value(0).toString() == "ok"_L1;
     query->finish();
-    return passes ? QString() : u"The database is damaged."_s;
+    if (passes)
+        return {};
+    return connection.Failure().isEmpty() ? u"The database is damaged."_s : connection.Failure();
 }
 
 QString QuotedName(const QString &name) { return u'"' + QString(name).replace(u'"', "\"\""_L1) + u'"'; }

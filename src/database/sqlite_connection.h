@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QString>
 #include <QVariant>

@@ -43,7 +43,9 @@ void PageFile::Write(QByteArrayView bytes) {
     // The old page is cut behind the new bytes and not before them: a file system may take the cut to
     // nothing for a replacement that it has to bring to the disk at once.
     const bool first = file.pos() == 0;
-    if (file.write(bytes.data(), bytes.size()) != bytes.size() || (first && !file.resize(bytes.size())))
+    const bool whole = file.write(bytes.data(), bytes.size()) == bytes.size();
+    const bool cut = !first || file.resize(file.pos());
+    if (!whole || !cut)
         file.close();
 }
 

@@ -22,8 +22,7 @@ enum class Pane {
 enum class MousePointer { Default = 0, Arrow = 1, Hourglass = 11, WaitingArrow = 13, Busy = 99 };
 
 /// What belongs to the main window as a whole: whether it is there, its caption, the pane on view, its
-/// pointer. It is visible from the moment on when the start of the program has opened a project until its
-/// end.
+/// pointer. It is visible from when the start of the program has opened a project until the program ends.
 class MainFrame : public Control {
     Q_OBJECT
 

@@ -13,9 +13,8 @@ namespace lanterra {
 // "Selected" of table "Data".
 //
 //   row 1            the record, all fields
-//   rows 2, 3, ...   only for several URLs: txtURL, txtTitle, txtDesc and txtKey1 to txtKey6 of slot 0, 1,
-//   ...
-//                    of the table, their other fields empty
+//   rows 2, 3, ...   only for several URLs: txtURL, txtTitle, txtDesc and txtKey1 to txtKey6
+//                    of the slots 0, 1, ... of the table, their other fields empty
 //
 // The rows of several URLs are written behind the record each time, and the first save in that mode over a
 // table of one row adds slot 0 twice, which moves every later slot along by one at the next load. Old

@@ -26,7 +26,7 @@ QByteArray WithoutLineEnd(QByteArray text) {
 Outcome RunCipher(const CommandCall &call) {
     const QString task = call.arguments.first();
     if (task != "encipher"_L1 && task != "decipher"_L1)
-        return Outcome::WrongUse(u"A text is worked with encipher or decipher, not with %1."_s.arg(task));
+        return Outcome::WrongUse(u"Give encipher or decipher, not '%1'."_s.arg(task));
     const QString typedKey = call.options.value(u"key"_s);
     QByteArray key = CodePage::Encode(typedKey);
     if (CodePage::Decode(key) != typedKey)

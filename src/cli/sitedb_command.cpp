@@ -44,7 +44,7 @@ Outcome RunSitedb(const CommandCall &call) {
         if (task.name == call.arguments.first() && task.arguments == call.arguments.size())
             return task.run(call);
     }
-    return Outcome::WrongUse(u"A site database is worked with build SOURCE OUT, dump FILE or check FILE."_s);
+    return Outcome::WrongUse(u"Give build SOURCE OUT, dump FILE or check FILE."_s);
 }
 
 } // namespace

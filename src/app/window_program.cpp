@@ -39,7 +39,7 @@ void WindowProgram::Run(const QString &commandLine) {
 }
 
 void WindowProgram::End() {
-    const bool ends = queue.Closing();
+    const bool endsAlready = queue.Closing();
     queue.Close();
     while (QWidget *const menu = QApplication::activePopupWidget())
         menu->close();
@@ -51,7 +51,7 @@ void WindowProgram::End() {
     }
     // Not quit, which closes the windows first, that of the progress too. And not again: the loops that begin
     // behind the first time are those of the questions on the way down.
-    if (!ends)
+    if (!endsAlready)
         QApplication::exit();
 }
 

@@ -1,5 +1,6 @@
 #include "modes/top9_page.h"
 
+#include "modes/page_template.h"
 #include "support/code_page.h"
 #include "support/text_template.h"
 

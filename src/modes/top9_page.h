@@ -1,6 +1,5 @@
 #pragma once
 
-#include "modes/page_template.h"
 #include "modes/project_page.h"
 #include "settings/hosts.h"
 #include "support/whole_file.h"

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ports/dialogs.h"
 #include "project/project.h"
 
 namespace lanterra {

@@ -4,6 +4,7 @@
 #include "submission/run_extensions.h"
 
 #include <functional>
+#include <utility>
 
 namespace lanterra {
 

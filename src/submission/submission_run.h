@@ -1,6 +1,5 @@
 #pragma once
 
-#include "controls/button.h"
 #include "ports/dialogs.h"
 #include "ports/forms.h"
 #include "project/project_files.h"

@@ -1,7 +1,5 @@
 #include "support/percent_encode.h"
 
-#include <QByteArray>
-
 namespace lanterra {
 
 bool IsControl(char byte) {

@@ -3,7 +3,6 @@
 #include "window/control_bindings.h"
 
 #include <QAction>
-#include <QDebug>
 
 namespace lanterra {
 

@@ -4,6 +4,10 @@
 
 namespace lanterra {
 
+namespace {
+constexpr int gap = 16; ///< around the text, in pixels of 96 dpi
+}
+
 EmptyHint::EmptyHint(QAbstractItemView &itemView, const QString &text)
     : QLabel(text, itemView.viewport()), view(itemView) {
     setTextFormat(Qt::PlainText);
@@ -20,7 +24,7 @@ EmptyHint::EmptyHint(QAbstractItemView &itemView, const QString &text)
 
 bool EmptyHint::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::Resize)
-        setGeometry(view.viewport()->rect().adjusted(16, 16, -16, -16));
+        setGeometry(view.viewport()->rect().adjusted(gap, gap, -gap, -gap));
     return QLabel::eventFilter(watched, event);
 }
 

@@ -10,7 +10,8 @@ namespace lanterra {
 namespace {
 
 // The focus only moves for good inside the program: a menu or another program gives it back.
-bool MovesForGood(Qt::FocusReason reason) {
+bool MovesForGood(const QEvent &event) {
+    const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
     return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
            reason != Qt::MenuBarFocusReason;
 }
@@ -48,13 +49,14 @@ bool EntryEvents::eventFilter(QObject *watched, QEvent *event) {
     TextBox *const box = boxes.value(watched);
     if (!box)
         return false;
-    if (event->type() == QEvent::FocusIn && MovesForGood(static_cast<QFocusEvent *>(event)->reason()))
+    if (event->type() == QEvent::KeyPress)
+        return IsReturn(*event) && entry.ReturnPressed(*box);
+    if (event->type() == QEvent::FocusIn && MovesForGood(*event))
         GotFocus(*box);
-    else if (event->type() == QEvent::FocusOut && MovesForGood(static_cast<QFocusEvent *>(event)->reason())) {
+    if (event->type() == QEvent::FocusOut && MovesForGood(*event)) {
         Deselect(*watched);
         LostFocus(*box);
-    } else if (event->type() == QEvent::KeyPress && IsReturn(*event))
-        return entry.ReturnPressed(*box);
+    }
     return false;
 }
 

@@ -21,7 +21,7 @@ void FormDialog::FindPlace() {
     if (early)
         move(screen()->availableGeometry().center() - rect().center());
     else
-        setAttribute(Qt::WA_Moved, false);
+        setAttribute(Qt::WA_Moved, false); // or it would stay where it once stood
 }
 
 // A dialog takes the height of its texts on one line each unless it is told what wrapping them needs.

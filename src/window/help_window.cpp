@@ -16,10 +16,11 @@ namespace lanterra {
 namespace {
 
 constexpr int fileRole = Qt::UserRole;
+// In pixels of 96 dpi.
 constexpr int indexWidth = 230;
-constexpr int pageMargin = 20; // px
+constexpr int pageMargin = 20;
 constexpr int cellPadding = 6;
-constexpr int lineHeight = 125; // percent
+constexpr int lineHeight = 125; ///< percent
 
 QString ReadText(const QString &fileName) {
     QFile file(fileName);

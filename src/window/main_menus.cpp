@@ -78,22 +78,29 @@ void MainMenus::JoinHelpMenu() {
 // A button of this toolbar is never seen down, so only its coming up is told.
 void MainMenus::JoinRibbon() {
     const QList<QAction *> buttons = ui.SSRibbon1->actions();
-    for (int index = 0; index < buttons.size(); ++index)
-        connect(buttons[index], &QAction::triggered, this,
+    for (int index = 0; index < buttons.size(); ++index) {
+        QAction &button = *buttons[index];
+        connect(&button, &QAction::triggered, this,
                 [this, index] { program.frmMain.SSRibbon1_Click(index, false); });
+        ui.SSRibbon1->widgetForAction(&button)->setAccessibleName(button.toolTip());
+    }
     auto *const withText = qobject_cast<QToolButton *>(ui.SSRibbon1->widgetForAction(buttons.last()));
     withText->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     withText->setObjectName(QStringLiteral("ribbonWithText")); // for the style sheet
-    // Tab comes here behind the panes, which are used more. Only a widget that takes the focus has a place.
+    PutRibbonBehindPanes();
+}
+
+// Tab comes to the toolbar last, as the panes are used more. Only a widget that takes the focus has a place.
+void MainMenus::PutRibbonBehindPanes() {
     QWidget *before = window.previousInFocusChain();
     while (!(before->focusPolicy() & Qt::TabFocus))
         before = before->previousInFocusChain();
+    const QList<QAction *> buttons = ui.SSRibbon1->actions();
     for (QAction *action : buttons) {
         QWidget *const button = ui.SSRibbon1->widgetForAction(action);
         button->setFocusPolicy(Qt::TabFocus);
         QWidget::setTabOrder(before, button);
         before = button;
-        button->setAccessibleName(action->toolTip());
     }
 }
 

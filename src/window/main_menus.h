@@ -31,6 +31,7 @@ private:
     void JoinOptionsMenu();
     void JoinHelpMenu();
     void JoinRibbon();
+    void PutRibbonBehindPanes();
     void JoinSubmitPopup();
     void JoinCancelPopup();
     void JoinChannelPopups();

@@ -13,8 +13,8 @@ SearchPane::SearchPane(Program &program) : ui(std::make_unique<Ui::SearchPane>()
     ApplyIcons(*this);
     WebSearch &search = program.webSearch;
     FormBinder(*this).Bind(search);
-    (new EntryEvents(program.project.record, program.entry, *this))
-        ->Watch(*ui->txtKeywords, search.txtKeywords);
+    auto *const entries = new EntryEvents(program.project.record, program.entry, *this);
+    entries->Watch(*ui->txtKeywords, search.txtKeywords);
     new EmptyHint(*ui->File1, tr("No answers are saved yet. Each search keeps its answer here as a page."));
     connect(ui->Command15, &QPushButton::clicked, this, [&search] { search.Command15_Click(); });
     connect(ui->cmdFind, &QPushButton::clicked, this, [&search] { search.cmdFind_Click(); });

@@ -44,13 +44,13 @@ ProgramFolder::Places ProgramFolder::Places::OfSystem(const QString &givenFolder
 }
 
 ProgramFolder::ProgramFolder(const Places &systemPlaces) : places(systemPlaces) {
-    if (!places.given.isEmpty())
+    if (!places.given.isEmpty()) {
         path = places.given;
-    else if (!places.environment.isEmpty())
+    } else if (!places.environment.isEmpty()) {
         path = places.environment;
-    else if (FileExists(QDir(places.executable).filePath(masterName)))
+    } else if (FileExists(QDir(places.executable).filePath(masterName))) {
         path = places.executable;
-    else {
+    } else {
         path = QDir(places.documents).filePath(u"Lanterra"_s);
         filledFromShare = true;
     }

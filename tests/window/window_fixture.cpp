@@ -2,14 +2,18 @@
 
 #include "project/site_source_build.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QInputDialog>
 #include <QListView>
 #include <QMessageBox>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
+#include <deque>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace lanterra {
 
@@ -41,6 +45,84 @@ void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
 void ClickAt(const QWidget &widget, QPoint place) {
     const QWidget &window = *widget.window();
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, widget.mapTo(&window, place));
+}
+
+// No window manager gives the focus back here when a window closes.
+void GiveFocusBack() {
+    const QWidget *const active = QApplication::activeWindow();
+    if ((active && active->isVisible()) || QApplication::activePopupWidget())
+        return;
+    QWidget *next = QApplication::activeModalWidget();
+    for (QWidget *top : QApplication::topLevelWidgets()) {
+        if (!next && top->isVisible() && top->inherits("QMainWindow"))
+            next = top;
+    }
+    if (next)
+        next->activateWindow();
+}
+
+/// Works a program as a user does who waits for each thing to come up: looks whenever the event queue is
+/// about to sleep, in whatever dialog or wait that is, and acts in an event of its own. Nothing wakes the
+/// queue for its sake, so a program that forgets to wake up is found out.
+class StepPlayer : public QObject {
+public:
+    StepPlayer(const std::vector<Step> &theSteps, Action giveUp);
+
+    bool Done() const { return steps.empty(); }
+
+private:
+    void Look();
+    void Act();
+    void GiveUp();
+
+    std::deque<Step> steps;
+    Action end;
+    QTimer deadline;
+    bool acting = false; ///< an event to act is on its way
+    bool gaveUp = false;
+};
+
+StepPlayer::StepPlayer(const std::vector<Step> &theSteps, Action giveUp)
+    : steps(theSteps.begin(), theSteps.end()), end(std::move(giveUp)) {
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            &StepPlayer::Look);
+    connect(&deadline, &QTimer::timeout, this, &StepPlayer::GiveUp);
+    deadline.start(30s);
+}
+
+void StepPlayer::Look() {
+    GiveFocusBack();
+    if (gaveUp && QApplication::activeModalWidget())
+        QMetaObject::invokeMethod(QApplication::activeModalWidget(), &QWidget::close, Qt::QueuedConnection);
+    if (acting || steps.empty() || !steps.front().when.holds())
+        return;
+    acting = true;
+    QMetaObject::invokeMethod(this, &StepPlayer::Act, Qt::QueuedConnection);
+}
+
+void StepPlayer::Act() {
+    acting = false;
+    if (steps.empty() || !steps.front().when.holds())
+        return;
+    const Action act = steps.front().act;
+    steps.pop_front();
+    deadline.start();
+    act();
+}
+
+void StepPlayer::GiveUp() {
+    const auto name = [](const QObject *object) {
+        return object ? object->metaObject()->className() + (' ' + object->objectName().toStdString())
+                      : "none";
+    };
+    ADD_FAILURE() << "This never came: "
+                  << (steps.empty() ? "the end" : steps.front().when.what.toStdString())
+                  << ". Active window: " << name(QApplication::activeWindow())
+                  << ", popup: " << name(QApplication::activePopupWidget())
+                  << ", focus: " << name(QApplication::focusWidget());
+    steps.clear();
+    gaveUp = true;
+    end();
 }
 
 } // namespace

@@ -3,13 +3,31 @@
 #include "app/window_program.h"
 #include "park/park_server.h"
 #include "tests/qt_printing.h"
-#include "tests/window/step_player.h"
 
 #include <QTemporaryDir>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <vector>
 
 namespace lanterra {
+
+/// What a user waits for, with words for the case that it never comes.
+struct Condition {
+    QString what;
+    std::function<bool()> holds;
+};
+
+/// What a user then does. It may open a dialog or a menu and so return late.
+using Action = std::function<void()>;
+
+struct Step {
+    Condition when;
+    Action act;
+};
+
+/// Both, one after the other.
+std::vector<Step> operator+(std::vector<Step> first, const std::vector<Step> &second);
 
 /// The whole program with its windows and real doors, in a home and with settings of its own, and the
 /// practice web in the same process.
@@ -24,7 +42,8 @@ protected:
     /// welcomed. `browser` is the command that opens pages, empty for the desktop's.
     void GivenProject(const QStringList &sites, const QString &browser = {});
 
-    /// The program, new on what the last one left behind, until its end.
+    /// The program, new on what the last one left behind, until its end. A step that doesn't come in time is
+    /// a failure; all that is up is dismissed then.
     void Play(const std::vector<Step> &steps, const QString &commandLine = {});
     void PlayOnProject(const std::vector<Step> &steps) { Play(steps, Path("Projects/Shop.rts")); }
 
@@ -54,13 +73,15 @@ protected:
     static Action Chooses(QAnyStringView entry); ///< of the menu that is up
     static Action ClosesWindow();
 
+    /// From the first start to the window with the new project "Shop".
+    const std::vector<Step> makesAProject{{Up("WelcomeDialog"), Presses(Qt::Key_Return)},
+                                          {Up("ProjectStartDialog"), Presses(Qt::Key_Return)},
+                                          {Asked("Create a new project"), Types("Shop\n")}};
+
     QTemporaryDir home;
     AccessLog log{QString()};
     ParkServer park{0, log};
     std::unique_ptr<WindowProgram> program;
 };
-
-/// Both, one after the other.
-std::vector<Step> operator+(std::vector<Step> first, const std::vector<Step> &second);
 
 } // namespace lanterra

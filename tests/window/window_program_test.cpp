@@ -1,27 +1,22 @@
 #include "tests/window/window_fixture.h"
 
 #include "support/whole_file.h"
+#include "window/widget_dialogs.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QListView>
+#include <QTest>
 #include <QTextBrowser>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
 namespace lanterra {
 namespace {
 
-class WindowProgramTest : public WindowFixture {
-protected:
-    /// A new project, and then this.
-    std::vector<Step> Started(const Action &next) const {
-        return {{Up(u"WelcomeDialog"_s), Presses(Qt::Key_Return)},
-                {Up(u"ProjectStartDialog"_s), Presses(Qt::Key_Return)},
-                {Asked(u"Create a new project"_s), Types(u"Shop\n"_s)},
-                {Up(u"MainWindow"_s), next}};
-    }
-};
+using WindowProgramTest = WindowFixture;
 
 TEST_F(WindowProgramTest, AnEndInTheMiddleOfASaveDoesNotCutItShort) {
     GivenMaster({u"Quillfind"_s, u"Harbor"_s, u"Foxgloam"_s});
@@ -38,26 +33,26 @@ TEST_F(WindowProgramTest, AnEndInTheMiddleOfASaveDoesNotCutItShort) {
             Qt::SingleShotConnection);
         parts.files.mnuFileSave_Click();
     };
-    Play(Started(endInSave));
+    Play(makesAProject + std::vector<Step>{{Up("MainWindow"), endInSave}});
     program->program.files.OpenProject(Path(u"Projects/Shop.rts"_s));
     EXPECT_EQ(program->program.project.lists.List1.SelCount(), 3);
 }
 
 TEST_F(WindowProgramTest, WhoEndsItTwiceIsAskedAllTheSame) {
     GivenMaster({u"Quillfind"_s});
-    std::vector<Step> steps = Started([this] {
+    const auto endTwice = [this] {
         Program &parts = program->program;
         QFile::remove(parts.project.path.Base);
         QObject::connect(&parts.frame.Notice, &Label::CaptionChanged, program.get(), &WindowProgram::End);
         program->End();
-    });
-    steps.push_back({Box(u"The project could not be saved."_s), Presses(Qt::Key_Return)});
-    Play(steps);
+    };
+    Play(makesAProject +
+         std::vector<Step>{{Up("MainWindow"), endTwice},
+                           {Box("The project could not be saved."), Presses(Qt::Key_Return)}});
 }
 
 TEST_F(WindowProgramTest, TheHelpIsShownOrABoxTellsWhyNot) {
     GivenMaster({u"Quillfind"_s});
-    std::vector<Step> steps = Started(Presses(Qt::Key_F1));
     const auto findHelp = [this] {
         const QString pages = QFileInfo(QStringLiteral(SITES)).dir().filePath(u"../docs/help/index.md"_s);
         EXPECT_TRUE(WriteWholeFile(Path(u"lanterra.hlp"_s), pages.toUtf8()));
@@ -75,12 +70,43 @@ TEST_F(WindowProgramTest, TheHelpIsShownOrABoxTellsWhyNot) {
         Presses(Qt::Key_Escape)();
         program->program.frmMain.mnuHelpContents_Click();
     };
-    steps.push_back({Box(u"can't be read"_s), Presses(Qt::Key_Return)});
-    steps.push_back({Up(u"MainWindow"_s), findHelp});
-    steps.push_back({Up(u"HelpWindow"_s), turnPages});
-    steps.push_back({Box(u"There is no Help associated with this project."_s), Presses(Qt::Key_Return)});
-    steps.push_back({Up(u"MainWindow"_s), ClosesWindow()});
-    Play(steps);
+    Play(makesAProject +
+         std::vector<Step>{{Up("MainWindow"), Presses(Qt::Key_F1)},
+                           {Box("can't be read"), Presses(Qt::Key_Return)},
+                           {Up("MainWindow"), findHelp},
+                           {Up("HelpWindow"), turnPages},
+                           {Box("There is no Help associated with this project."), Presses(Qt::Key_Return)},
+                           {Up("MainWindow"), ClosesWindow()}});
+}
+
+TEST_F(WindowProgramTest, TheListOfUrlsTakesTheLineThatIsStillBeingTyped) {
+    GivenMaster({u"Quillfind"_s});
+    const auto showForm = [this] {
+        program->program.project.record.txtURL.SetText(u"http://a.example/"_s);
+        program->program.run.SSCommand7_Click();
+    };
+    Play(makesAProject +
+         std::vector<Step>{{Up("MainWindow"), showForm},
+                           {Up("MultiDialog"), Types("\n")}, // behind the line that is there already
+                           {Up("MultiDialog"), Types("http://b.example/")},
+                           {Up("MultiDialog"), Presses(Qt::Key_O, Qt::AltModifier)},
+                           {Up("MainWindow"), ClosesWindow()}});
+    EXPECT_EQ(program->program.project.record.multiUrlTable.Cell(1, MultiUrlTable::urlColumn),
+              u"http://b.example/"_s);
+}
+
+TEST_F(WindowProgramTest, AFileDialogTakesAProgramWithoutAnExtension) {
+    ASSERT_TRUE(QFile(Path("browser")).open(QIODevice::WriteOnly));
+    for (const auto &[typed, chosen] : {std::pair{u"browser"_s, u"browser"_s}, {u"new"_s, u"new.exe"_s}}) {
+        QTimer::singleShot(0, [&typed] {
+            QWidget *const box = QApplication::activeModalWidget()->focusWidget();
+            QTest::keyClicks(box, typed);
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        const auto path =
+            WidgetDialogs().OpenFile({u"(*.exe)|*.exe|All files|*"_s, home.path(), {}, u"exe"_s});
+        EXPECT_EQ(path, Path(chosen));
+    }
 }
 
 } // namespace

@@ -135,11 +135,8 @@ TEST_F(WindowReentryTest, ClosingTheWindowEndsAllThatWaits) {
 
 TEST_F(WindowReentryTest, AnEndFromOutsideIsTakenWhileTheStartStillAsks) {
     GivenMaster({u"Quillfind"_s});
-    const std::vector<Step> start{{Up("WelcomeDialog"), Presses(Qt::Key_Return)},
-                                  {Up("ProjectStartDialog"), Presses(Qt::Key_Return)},
-                                  {Asked("Create a new project"), Presses(Qt::Key_Return)}};
     for (std::ptrdiff_t last : {0, 1, 2}) {
-        std::vector<Step> steps(start.begin(), start.begin() + last + 1);
+        std::vector<Step> steps(makesAProject.begin(), makesAProject.begin() + last + 1);
         steps.back().act = [this] { program->End(); };
         QFile::remove(Path("config/Lanterra.ini"));
         Play(steps);

@@ -66,7 +66,7 @@ bool SubmissionChannel::Expired(double limitSeconds) const { return SecondsLeft(
 
 void SubmissionChannel::TimeOut(double limitSeconds) {
     parts.client->Abort();
-    RecordFailure(u"no answer within %1 s"_s.arg(limitSeconds));
+    RecordFailure(u"No answer within %1 s"_s.arg(limitSeconds));
     closed = free = true;
 }
 

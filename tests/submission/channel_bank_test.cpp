@@ -98,7 +98,7 @@ TEST_F(ChannelBankTest, TheWatchdogCutsOffAtTheLimitCountedFromDispatch) {
     });
     PressSubmit();
     EXPECT_EQ(Client(1).aborts, 1);
-    EXPECT_EQ(Outcome(0).reason, u"no answer within 20 s"_s);
+    EXPECT_EQ(Outcome(0).reason, u"No answer within 20 s"_s);
     emit Client(1).Done(); // late: the channel is closed
     EXPECT_EQ(Result().SuccessfulCount(), 0);
 

@@ -41,19 +41,25 @@ protected:
     ResponseAnalysis analysis{queue};
 };
 
-TEST_F(ResponseAnalysisTest, JudgesTheFirstBlockOfADownload) {
+TEST_F(ResponseAnalysisTest, JudgesABlockScansItForALocationAndReadsARedirectionInItsFirstLine) {
+    const QString notHere = u"Error: No redirection URL"_s;
     const QList<QStringList> cases{
-        {u"HTTP/1.1 200 OK\r\nContent-Length: 1000\r\nContent-Type: text/plain\r\n"_s, u"Done"_s},
-        {u"HTTP/1.1 200 OK\r\nContent-Length: 1000\r\nContent-Type: application/zip\r\n"_s, u""_s},
-        {u"HTTP/1.1 200 OK\r\nContent-Length: soon\r\nContent-Type: text/html\r\n"_s, u""_s},
-        {u"just text"_s, u"Error: unknown"_s},
-        {u"HTTP/1.1 404 Not Found\r\n"_s, u"Error: 404 Not Found"_s},
-        {u"HTTP/1.1 200 OK\r\n\r\nthe word NOT FOUND in a body"_s, u"Error: Not Found"_s},
-        {u"HTTP/1.1 302 Found\r\nLocation: /x\r\n"_s, u""_s}, // the Location stands behind the first line
-        {u"HTTP/1.0 200 File moved Location: /x\r\n"_s, u"Redirection"_s},
+        {u"HTTP/1.1 200 OK\r\nContent-Length: 1000\r\nContent-Type: text/plain\r\n"_s, u"Done"_s, {}, {}},
+        {u"HTTP/1.1 200 OK\r\nContent-Length: 1000\r\nContent-Type: application/zip\r\n"_s, {}, {}, {}},
+        {u"HTTP/1.1 200 OK\r\nContent-Length: soon\r\nContent-Type: text/html\r\n"_s, {}, {}, {}},
+        {u"just text"_s, u"Error: unknown"_s, u"Error: unknown"_s, {}},
+        {u"HTTP/1.1 404 Not Found\r\nLocation: /x\r\n"_s, u"Error: 404 Not Found"_s, {}, {}},
+        {u"HTTP/1.1 200 OK\r\n\r\nthe word NOT FOUND in a body"_s, u"Error: Not Found"_s, {}, {}},
+        {u"HTTP/1.1 200 OK\r\nLocation: /x\r\n"_s, {}, u"/x"_s, {}},
+        {u"HTTP/1.1 302 Found\r\nA: b\r\nlocation: /x\r\n\r\n"_s, {}, u"/x"_s, notHere},
+        {u"HTTP/1.0 200 File moved Location: /x\r\n"_s, u"Redirection"_s, u"/x"_s, u"Redirection"_s},
+        {u"HTTP/1.1 200 Moved Location: /x"_s, u"Redirection"_s, u"/x"_s, notHere}, // no line end of its own
     };
-    for (const QStringList &row : cases)
+    for (const QStringList &row : cases) {
         EXPECT_EQ(analysis.AnalyseResponseHeader(row[0]), row[1]) << row[0].toStdString();
+        EXPECT_EQ(analysis.ScanLocation(row[0]), row[2]) << row[0].toStdString();
+        EXPECT_EQ(analysis.ReadRedirection(row[0]), row[3]) << row[0].toStdString();
+    }
     EXPECT_GT(queue.Yields(), 17);
 }
 
@@ -66,21 +72,6 @@ TEST_F(ResponseAnalysisTest, TakesThreeValuesFromTheHeader) {
         analysis.AnalyseResponseHeader(row[0]);
         EXPECT_EQ((QStringList{analysis.lastModified, analysis.contentLength, analysis.contentType}),
                   row[1].split(u' '));
-    }
-}
-
-TEST_F(ResponseAnalysisTest, ScansTheWholeHeaderForALocationAndReadsTheFirstLineOnly) {
-    const QList<QStringList> cases{
-        {u"HTTP/1.1 302 Found\r\nA: b\r\nlocation: /x\r\n\r\n"_s, u"/x"_s, u"Error: No redirection URL"_s},
-        {u"HTTP/1.1 200 Moved Location: /x"_s, u"/x"_s, u"Error: No redirection URL"_s},
-        {u"HTTP/1.1 200 OK\r\nLocation: /x\r\n"_s, u"/x"_s, u""_s},
-        {u"HTTP/1.1 200 OK\r\n\r\n"_s, u""_s, u""_s},
-        {u"HTTP/1.1 404 Not Found\r\nLocation: /x\r\n"_s, u""_s, u""_s},
-        {u"no header"_s, u"Error: unknown"_s, u""_s},
-    };
-    for (const QStringList &row : cases) {
-        EXPECT_EQ(analysis.ScanLocation(row[0]), row[1]) << row[0].toStdString();
-        EXPECT_EQ(analysis.ReadRedirection(row[0]), row[2]) << row[0].toStdString();
     }
 }
 

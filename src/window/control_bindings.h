@@ -5,7 +5,7 @@
 namespace lanterra {
 
 /// One function a kind of control. Each joins the control to the widget or action if both are of its kind,
-/// and says whether they are. The face is the context of all connections, so either side may go first.
+/// and says whether they are. Each connection ends with either of its sides, so either may go first.
 
 bool JoinCombo(QObject &control, QObject &face); ///< ComboBox and QComboBox
 bool JoinText(QObject &control, QObject &face);  ///< TextBox and QLineEdit or QPlainTextEdit

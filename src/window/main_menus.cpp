@@ -33,9 +33,11 @@ void MainMenus::JoinFileMenu() {
     connect(ui.mnuFilePrintPreview, &QAction::triggered, this,
             [this] { program.siteListPrint.mnuFilePrintPreview_Click(); });
     const std::array recent{ui.mnuFileMRU1, ui.mnuFileMRU2, ui.mnuFileMRU3, ui.mnuFileMRU4, ui.mnuFileMRU5};
-    for (std::size_t i = 0; i < recent.size(); ++i)
-        connect(recent[i], &QAction::triggered, this,
-                [&files, item = static_cast<int>(i) + 1] { files.mnuFileMRU_Click(item); });
+    int item = 1;
+    for (const QAction *entry : recent) {
+        connect(entry, &QAction::triggered, this, [&files, item] { files.mnuFileMRU_Click(item); });
+        ++item;
+    }
     connect(ui.mnuFileExit, &QAction::triggered, this, [this] { program.frmMain.mnuFileExit_Click(); });
 }
 

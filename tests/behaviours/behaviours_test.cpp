@@ -21,12 +21,11 @@ protected:
             });
         for (qsizetype i = 0; i < cases.size(); ++i) {
             const FetchResult &result = results[i];
-            EXPECT_EQ(result.outcome, cases[i].outcome)
-                << cases[i].Name().toStdString() << ": " << result.reason.toStdString();
+            SCOPED_TRACE(cases[i].Name().toStdString());
+            EXPECT_EQ(result.outcome, cases[i].outcome) << result.reason.toStdString();
             EXPECT_TRUE(result.page.Is(cases[i].disk))
-                << cases[i].Name().toStdString() << ": " << result.page.size << " bytes, "
-                << result.page.start.toStdString();
-            EXPECT_EQ(result.reason.isEmpty(), result.outcome != u"failed") << cases[i].Name().toStdString();
+                << result.page.size << " bytes, " << result.page.start.toStdString();
+            EXPECT_EQ(result.reason.isEmpty(), result.outcome != u"failed");
         }
     }
 

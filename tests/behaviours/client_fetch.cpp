@@ -14,7 +14,10 @@ ClientFetch::ClientFetch(const FetchCase &row, const QString &path,
         client.SetProxyPort(row.proxyPort);
     }
     connect(&client, &HttpClient::Connected, this, [this] { client.SendGet(); });
-    connect(&client, &HttpClient::Data, this, &ClientFetch::TakeData);
+    connect(&client, &HttpClient::Data, this, [this](const QByteArray &block) {
+        if (status == 0)
+            status = block.mid(9, 3).toInt();
+    });
     connect(&client, &HttpClient::Done, this, [this] { End(u"ok"_s, status, {}); });
     connect(&client, &HttpClient::Error, this, [this] { End(u"failed"_s, status, client.FailureReason()); });
     connect(&limit, &QTimer::timeout, this, [this] {
@@ -25,11 +28,6 @@ ClientFetch::ClientFetch(const FetchCase &row, const QString &path,
     limit.setTimerType(Qt::PreciseTimer);
     limit.start(row.Limit());
     client.ConnectToHost();
-}
-
-void ClientFetch::TakeData(const QByteArray &block) {
-    if (status == 0)
-        status = block.mid(9, 3).toInt();
 }
 
 } // namespace lanterra

@@ -15,8 +15,6 @@ public:
     ClientFetch(const FetchCase &row, const QString &path, const QList<QSslCertificate> &authorities);
 
 private:
-    void TakeData(const QByteArray &block);
-
     SocketHttpClient client;
     QTimer limit;
     int status = 0;

@@ -1,6 +1,7 @@
 #include "tests/behaviours/fetch.h"
 
 #include "platform/qt_event_queue.h"
+#include "support/whole_file.h"
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -17,12 +18,6 @@ namespace {
 
 QString PathFor(const QTemporaryDir &folder, qsizetype index) {
     return folder.filePath(QString::number(index));
-}
-
-void WriteOldPage(const QString &path) {
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write("old page");
 }
 
 } // namespace
@@ -72,7 +67,7 @@ QList<FetchResult> RunAll(const QList<FetchCase> &cases, int parallel, const Fet
     qsizetype next = 0;
     while (next < cases.size() || !running.empty()) {
         for (; next < cases.size() && std::ssize(running) < parallel; ++next) {
-            WriteOldPage(PathFor(folder, next));
+            WriteWholeFile(PathFor(folder, next), "old page");
             running.emplace(next, start(cases[next], PathFor(folder, next)));
         }
         queue.Wait(std::chrono::seconds(1));

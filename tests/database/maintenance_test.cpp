@@ -55,21 +55,14 @@ TEST_F(MaintenanceTest, WhatFailsLeavesTheOldCopy) {
     EXPECT_EQ(FilesLeft(), QStringList({copy, u"sites.rts"_s}));
 }
 
-TEST_F(MaintenanceTest, AnUnsoundOrUnknownDatabaseNeverTakesTheBackupsPlace) {
+TEST_F(MaintenanceTest, WhatIsDamagedNeverTakesTheBackupsPlaceAndRepairKeepsTheRowsAroundIt) {
     GivenNumberedRows(3000);
     control.Close();
     WriteWholeFile(Path(copy), "old");
-    const QByteArray backup = BytesOf(Path(copy));
     EXPECT_EQ(CompactThroughBackup(Path(), Path(copy), {}), u"The database has unexpected tables."_s);
     const QByteArray damaged = Damage(Path(), 16384);
     EXPECT_EQ(CompactThroughBackup(Path(), Path(copy), wanted), u"The database is damaged."_s);
-    EXPECT_TRUE(BytesOf(Path(copy)) == backup && BytesOf(Path()) == damaged);
-}
-
-TEST_F(MaintenanceTest, RepairKeepsTheRowsOnBothSidesOfTheDamage) {
-    GivenNumberedRows(3000);
-    control.Close();
-    Damage(Path(), 16384);
+    EXPECT_TRUE(BytesOf(Path(copy)) == "old" && BytesOf(Path()) == damaged);
     ASSERT_FALSE(Bind(control));
     control.Close();
     EXPECT_TRUE(RepairDatabase(Path()));
@@ -77,11 +70,10 @@ TEST_F(MaintenanceTest, RepairKeepsTheRowsOnBothSidesOfTheDamage) {
     EXPECT_TRUE(RepairDatabase(Path()));
     EXPECT_EQ(BytesOf(Path()), repaired) << "a sound file is left as it is";
     const QStringList names = StoredNames();
-    EXPECT_EQ(names.first(), u"0"_s);
-    EXPECT_EQ(names.last(), u"2999"_s);
+    EXPECT_EQ(names.first() + names.last(), u"02999"_s);
     EXPECT_GT(names.size(), 2000);
     EXPECT_LT(names.size(), 3000);
-    EXPECT_EQ(FilesLeft(), QStringList({u"sites.rts"_s}));
+    EXPECT_EQ(FilesLeft(), QStringList({copy, u"sites.rts"_s}));
 }
 
 TEST_F(MaintenanceTest, RepairGivesUpOnAFileWithoutReadableTables) {

@@ -102,13 +102,14 @@ BoxAnswer WidgetDialogs::Show(const MessageBox &box) {
     message.setStandardButtons(buttons);
     message.setDefaultButton(ButtonOf(box.defaultAnswer));
     message.setEscapeButton(ButtonOf(box.defaultAnswer));
-    message.exec();
-    const QAbstractButton *const pressed = message.clickedButton();
-    if (pressed == message.button(QMessageBox::Yes) && pressed)
+    switch (message.exec()) {
+    case QMessageBox::Yes:
         return BoxAnswer::Yes;
-    if (pressed == message.button(QMessageBox::No) && pressed)
+    case QMessageBox::No:
         return BoxAnswer::No;
-    return box.buttons == BoxButtons::Ok ? BoxAnswer::Ok : box.defaultAnswer;
+    default: // also for a box that the end of the program closes
+        return box.buttons == BoxButtons::Ok ? BoxAnswer::Ok : box.defaultAnswer;
+    }
 }
 
 QString WidgetDialogs::Ask(const InputBox &box) {

@@ -31,7 +31,6 @@ public:
 
     /// The header of the final answer as it came. Valid from Header on.
     const QByteArray &HeaderText() const { return headers.Text(); }
-    int Status() const { return headers.Header().status; }
 
     /// The bytes of the last Body step, without chunk marks; a part of the input that was read.
     QByteArrayView Piece() const { return piece; }

@@ -17,7 +17,6 @@ public:
         elapsed += step;
     }
     void SetTime(QTime time) { now.setTime(time); }
-    void SetNow(const QDateTime &moment) { now = moment; }
 
 private:
     QDateTime now{QDate(2024, 3, 5), QTime(12, 0)};

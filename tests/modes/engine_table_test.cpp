@@ -1,10 +1,6 @@
 #include "modes/engine_table.h"
-#include "support/sifrant.h"
-#include "support/whole_file.h"
 #include "tests/qt_printing.h"
 
-#include <QDir>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace lanterra;
@@ -45,16 +41,6 @@ TEST(EngineTableTest, TakesFourLinesBehindEachOpeningLineByPosition) {
         EXPECT_EQ(table.Load(text), complete) << what;
         EXPECT_EQ(Shown(table), rows) << what;
     }
-}
-
-TEST(EngineTableTest, ReadsTheEncipheredFile) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"engine.dat"_s);
-    QByteArray key = "plavac";
-    ASSERT_TRUE(WriteWholeFile(path, Sifrant().Sifriraj("Search engine\r\nName=Caf\xE9\r\n", key)));
-    EngineTable table;
-    EXPECT_TRUE(table.Read(path));
-    EXPECT_EQ(Shown(table), u"Caf\u00E9|||"_s);
 }
 
 } // namespace

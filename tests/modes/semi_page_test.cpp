@@ -1,6 +1,5 @@
 #include "park/park.h"
 #include "support/code_page.h"
-#include "support/whole_file.h"
 #include "tests/fakes/program_fixture.h"
 #include "tests/file_bytes.h"
 
@@ -40,8 +39,7 @@ QByteArray Encoded(const QString &form) {
 class SemiPageTest : public ProgramFixture {
 protected:
     SemiPageTest() {
-        EXPECT_TRUE(
-            CopyWholeFile(QStringLiteral(LANTERRA_DATA_DIR "/hosts.ini"), home.filePath(u"hosts.ini"_s)));
+        GivenHosts(BytesOf(QStringLiteral(LANTERRA_DATA_DIR "/hosts.ini")));
         GivenSites({u"Alta"_s});
         ProjectRecord &record = program->project.record;
         record.txtTitle.SetText(u"Caf\u00e9 & Co"_s);

@@ -10,8 +10,7 @@ namespace {
 class Top9PageTest : public ProgramFixture {
 protected:
     Top9PageTest() {
-        EXPECT_TRUE(
-            CopyWholeFile(QStringLiteral(LANTERRA_DATA_DIR "/hosts.ini"), home.filePath(u"hosts.ini"_s)));
+        GivenHosts(BytesOf(QStringLiteral(LANTERRA_DATA_DIR "/hosts.ini")));
         GivenSites({u"Alta"_s});
         Record().txtURL.SetText(u"http://a.example/?a&b {E}"_s);
         Record().multiUrlTable.SetCell(2, MultiUrlTable::urlColumn, u"http://slot.example/"_s);

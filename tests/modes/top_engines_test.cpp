@@ -63,7 +63,7 @@ protected:
 };
 
 TEST_F(TopEnginesTest, ReportsEachSelectedEngineInTheOrderOfTheFile) {
-    GivenProgram({u"Plain"_s, u"New Northern Light"_s, u"Off"_s, u"Silent"_s});
+    GivenProgram({u"Caf\u00E9"_s, u"New Northern Light"_s, u"Off"_s, u"Silent"_s});
     Form().Load();
     Form().List1.SetSelected(2, false);
     Form().TimeOut.SetText(u"3"_s);
@@ -77,7 +77,7 @@ TEST_F(TopEnginesTest, ReportsEachSelectedEngineInTheOrderOfTheFile) {
     EXPECT_EQ(Page(u"URL0/report.html"_s),
               u"Top search engines submission http://www.page.example/ 3 2024\r\n"
               "me@page.example Zephyrine Lanterra 2.14 [other]\r\n"
-              "Plain,S Plain,R Plain,file:///good,Successful submission,%1\r\n"
+              "Caf\u00E9,S Caf\u00E9,R Caf\u00E9,file:///good,Successful submission,%1\r\n"
               "New Northern Light,S New Northern Light,R New Northern Light,file:///good,Successful "
               "submission,%2\r\n"
               "Silent,S Silent,R Silent,file:///bad,Failed submission,%3\r\n"

@@ -1,8 +1,7 @@
 #include "support/text_file.h"
 #include "tests/fakes/program_fixture.h"
+#include "tests/wait_until.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QDir>
 
 using namespace lanterra;
@@ -110,10 +109,7 @@ TEST_F(WebSearchTest, CancelAndErrorFreeThePaneAtEveryStage) {
 TEST_F(WebSearchTest, TheListFollowsItsFolderOpensAnswersAndIsCleared) {
     FileList &list = Form().File1;
     const auto follows = [&list](const QStringList &names) {
-        const QDeadlineTimer deadline(std::chrono::seconds(10));
-        while (list.Items() != names && !deadline.hasExpired())
-            QCoreApplication::processEvents();
-        return list.Items() == names;
+        return WaitUntil([&] { return list.Items() == names; });
     };
     Form().Command5_Click();
     EXPECT_EQ(program->frame.ShownPane(), Pane::fraSearch);

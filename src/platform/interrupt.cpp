@@ -41,7 +41,10 @@ void Interrupt::TakeSignal() {
 void Interrupt::Release() {
     if (descriptor < 0)
         return;
-    delete findChild<QSocketNotifier *>();
+    if (auto *const notifier = findChild<QSocketNotifier *>()) {
+        notifier->setEnabled(false);
+        notifier->deleteLater(); // it may be its own signal that leads here
+    }
     close(descriptor);
     descriptor = -1;
     pthread_sigmask(SIG_SETMASK, &oldMask, nullptr);

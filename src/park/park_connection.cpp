@@ -21,6 +21,7 @@ ParkConnection::ParkConnection(std::unique_ptr<QTcpSocket> openSocket, Park &pra
     socket->setReadBufferSize(readAhead);
     connect(socket.get(), &QTcpSocket::readyRead, this, &ParkConnection::Receive);
     WhenBytesAreSent(*socket, this, [this] { ReadNext(); });
+    connect(&delay, &ExactTimer::Elapsed, this, &ParkConnection::SendAnswer);
     connect(socket.get(), &QTcpSocket::disconnected, this, &ParkConnection::deleteLater);
     socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     timer.start(patience, Qt::CoarseTimer, this);
@@ -36,9 +37,7 @@ void ParkConnection::timerEvent(QTimerEvent *event) {
     if (event->timerId() != timer.timerId())
         return;
     timer.stop();
-    if (phase == Phase::Answering)
-        SendAnswer();
-    else if (phase == Phase::Reading && reader.HasBegun())
+    if (phase == Phase::Reading && reader.HasBegun())
         BeginAnswer(park.Refuse(408));
     else
         socket->abort();
@@ -80,14 +79,14 @@ void ParkConnection::Read(const QByteArray &bytes) {
 void ParkConnection::BeginAnswer(HttpAnswer prepared) {
     phase = Phase::Answering;
     answer = std::move(prepared);
-    const int delay = latencyMs + answer.delay;
-    if (delay == 0)
+    timer.stop();
+    const std::chrono::milliseconds wait(latencyMs + answer.delay);
+    if (wait == wait.zero())
         return SendAnswer();
-    timer.start(delay, Qt::PreciseTimer, this);
+    delay.Start(wait);
 }
 
 void ParkConnection::SendAnswer() {
-    timer.stop();
     if (!answer.behaviour.isEmpty())
         return Play(answer.behaviour);
     const QByteArray bytes = AnswerBytes(request, answer);

@@ -2,6 +2,7 @@
 
 #include "park/access_log.h"
 #include "park/behaviour_player.h"
+#include "park/exact_timer.h"
 #include "park/park.h"
 #include "park/request_reader.h"
 
@@ -48,7 +49,8 @@ private:
     HttpRequest request; ///< the one that is being answered
     HttpAnswer answer;
     std::unique_ptr<BehaviourPlayer> player;
-    QBasicTimer timer; ///< the delay while answering, else the patience with the peer
+    QBasicTimer timer; ///< the patience with the peer
+    ExactTimer delay;  ///< before the answer
     Phase phase = Phase::Reading;
 };
 

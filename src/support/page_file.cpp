@@ -1,6 +1,7 @@
 #include "support/page_file.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,11 +9,16 @@ namespace lanterra {
 
 namespace {
 
-/// A plain file without other names, open for writing; -1 if that isn't what stands there.
+/// Marks the file as being written until it is closed.
+bool Take(int handle) { return ::flock(handle, LOCK_EX | LOCK_NB) == 0; }
+
+/// A plain file without other names, open for writing; -1 if that isn't what stands there, or if another page
+/// of the same name is still being written to it.
 int OpenExisting(const char *path) {
     const int handle = ::open(path, O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     struct stat found {};
-    if (handle < 0 || (::fstat(handle, &found) == 0 && S_ISREG(found.st_mode) && found.st_nlink == 1))
+    if (handle < 0 ||
+        (::fstat(handle, &found) == 0 && S_ISREG(found.st_mode) && found.st_nlink == 1 && Take(handle)))
         return handle;
     ::close(handle);
     return -1;
@@ -21,7 +27,10 @@ int OpenExisting(const char *path) {
 int OpenNew(const char *path) {
     ::unlink(path);
     // O_EXCL fails on anything that came back to this name meanwhile, a link included.
-    return ::open(path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    const int handle = ::open(path, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (handle >= 0)
+        Take(handle);
+    return handle;
 }
 
 } // namespace

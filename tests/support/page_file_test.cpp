@@ -35,6 +35,15 @@ TEST_F(PageFileTest, LeavesNothingOfThePageBefore) {
     EXPECT_EQ(Written({}), "");
 }
 
+TEST_F(PageFileTest, LeavesThePageOpenedLastWholeOfTwoAtOneName) {
+    PageFile first;
+    first.Open(path);
+    first.Write("begun ");
+    EXPECT_EQ(Written({"whole"}), "whole");
+    first.Write("and gone on with");
+    EXPECT_EQ(BytesOf(path), "whole");
+}
+
 TEST_F(PageFileTest, WritesThroughNoLink) {
     const QByteArray outside = QFile::encodeName(folder.filePath(u"outside"_s));
     for (const auto makeLink : {&::symlink, &::link}) {

@@ -9,12 +9,11 @@
 
 using namespace Qt::StringLiterals;
 
-// A row of the table: {"name", "what", "group": "tls" | "proxy", "cases": [[scheme, page, outcome, disk],
-// ...]} and one of
+// A row of the table: {"name", "what", "group": "tls" | "proxy",
+//                      "cases": [[scheme, page, outcome, disk], ...]} and one of
 //   "certificate": name, and "alert": false where TLS's closing alert is left out
 //   "kind": "proxy" | "closed" | "not-accepting"
-//   "steps", "end" and "early" as in the table of behaviours: begun by the peer's first byte, if early at
-//   once
+//   "steps", "end" and "early" as in the table of behaviours, begun by the first byte, if early at once
 
 namespace lanterra {
 

@@ -41,10 +41,11 @@ std::optional<qint64> DataVersion(SqliteConnection &connection) {
     return version;
 }
 
-/// An empty file beside another one, where a database grows before it takes that one's place.
+/// An empty file beside another one, under its name and a suffix, where a database grows before it takes that
+/// one's place.
 class ScratchFile {
 public:
-    explicit ScratchFile(const QString &target) : targetPath(target), file(target + ".XXXXXX"_L1) {
+    explicit ScratchFile(const QString &target) : targetPath(target), file(target) {
         if (file.open())
             file.close();
     }
